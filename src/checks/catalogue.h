@@ -1,0 +1,16 @@
+// The two check catalogues (3.0 and 1.2/2.0): group headings and numbered check titles, laid out
+// into the run state's check tables, and the group result store.
+#pragma once
+
+#include "checks/check_table.h"
+
+namespace zorvik {
+
+// Writes the headings and titles of both tables (results are left as they are).
+void layOutCatalogue();
+// Rows 1..15 of column 0 of `group` := slots 1..15.
+void storeGroupResults(CheckTable& table, int group, const Slots& slots);
+// True when any result cell of groups 1.. holds text.
+bool anyFailure(const CheckTable& table);
+
+}  // namespace zorvik

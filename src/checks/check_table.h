@@ -1,0 +1,63 @@
+// The two check tables: a catalogue and the results of one run kept together as text cells
+// addressed by (row, column, group), every bound starting at 0.
+//
+//   (0, 0, g)   heading of group g
+//   (r, 2, g)   title of check r of group g (empty: no such check)
+//   (r, 0, g)   result of check r: "" passed / not applicable, " " not reached, else the findings
+//   (r, 3, g)   display mark of the row for the result grid
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace zorvik {
+
+// Result texts of one group: index k is the text of row k (1..15); index 0 is unused.
+using Slots = std::array<std::string, 16>;
+
+// Codes every check procedure returns.
+inline constexpr int CHECK_PASSED = -1;   // all its rows passed
+inline constexpr int CHECK_FAILED = 1;    // at least one row holds findings
+inline constexpr int CHECK_FAULT = 0;     // an internal fault ended it
+inline constexpr int CHECK_NOTHING = 2;   // nothing to record
+
+// Run status returned by the file-level checks, the version drivers and the log writer.
+inline constexpr int RUN_COMPLETED = -1;
+inline constexpr int RUN_FAULT = 0;
+inline constexpr int RUN_STOPPED = 1;
+
+// Column numbers of a check table.
+inline constexpr int COL_RESULT = 0;
+inline constexpr int COL_TITLE = 2;
+inline constexpr int COL_MARK = 3;
+
+class CheckTable {
+ public:
+  static constexpr int kLastRow = 15;
+  static constexpr int kLastColumn = 3;
+
+  explicit CheckTable(int lastGroup) : lastGroup_(lastGroup), cells_(cellCount(lastGroup)) {}
+
+  int lastRow() const { return kLastRow; }
+  int lastColumn() const { return kLastColumn; }
+  int lastGroup() const { return lastGroup_; }
+
+  // Out-of-range addresses throw std::out_of_range (a "Subscript out of range" fault).
+  std::string& at(int row, int column, int group);
+  const std::string& at(int row, int column, int group) const;
+
+  // Empties every cell, keeping the bounds.
+  void clear();
+
+ private:
+  static std::size_t cellCount(int lastGroup) {
+    return static_cast<std::size_t>((kLastRow + 1) * (kLastColumn + 1) * (lastGroup + 1));
+  }
+  std::size_t index(int row, int column, int group) const;
+
+  int lastGroup_;
+  std::vector<std::string> cells_;
+};
+
+}  // namespace zorvik

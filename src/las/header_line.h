@@ -1,0 +1,72 @@
+// A header line "MNEM.UNIT  VALUE : DESCRIPTION {FORMAT} | ASSOCIATIONS", its kind and its
+// six fields, and the table of one section's header lines.
+//
+// These are pure functions over one line: none reports or throws; a missing delimiter yields an
+// empty field or a line kind. Comparisons ignore case; positions are 1-based, 0 = not found.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zorvik {
+
+enum LineKind : int {
+  LINE_OK = -1,
+  LINE_COMMENT = 1,
+  LINE_TITLE = 2,
+  LINE_BLANK = 3,
+  LINE_NO_MNEMONIC = 4,
+  LINE_HAS_TAB = 5,
+  LINE_SPACE_IN_MNEMONIC = 6,
+  LINE_NOT_DELIMITED = 7,
+};
+
+int classifyHeaderLine(std::string_view line);
+// Position of the colon that ends the value (the last colon outside a format); gives back the
+// position of the format's "{" in `bracePos` (0 when there is no format).
+int delimiterColon(std::string_view line, int& bracePos);
+int delimiterColon(std::string_view line);
+
+std::string fieldMnemonic(std::string_view line);
+std::string fieldUnit(std::string_view line);
+std::string fieldValue(std::string_view line);
+std::string fieldDescription(std::string_view line);
+std::string fieldFormat(std::string_view line);
+// The association text after the last "|"; `parts` receives it split on the data delimiter.
+std::string fieldAssociation(std::string_view line, std::vector<std::string>& parts);
+std::string fieldAssociation(std::string_view line);
+
+bool isValidMnemonic(std::string_view text);
+int countWords(std::string_view text, std::string_view separator);
+
+// Field rows of a parameter table.
+enum ParamField : int {
+  FIELD_MNEMONIC = 0,
+  FIELD_UNIT = 1,
+  FIELD_VALUE = 2,
+  FIELD_DESCRIPTION = 3,
+  FIELD_FORMAT = 4,
+  FIELD_ASSOCIATION = 5,
+};
+
+// One section's header lines. Entry 0 is not a line: its mnemonic field holds the section's
+// valid mnemonics, each followed by one blank ("DEPT GR NPHI "). Entries 1..n are the lines.
+struct ParamTable {
+  std::vector<std::array<std::string, 6>> entries = std::vector<std::array<std::string, 6>>(1);
+
+  int lastEntry() const { return static_cast<int>(entries.size()) - 1; }
+  const std::string& at(int field, int entry) const { return entries.at(entry).at(field); }
+  const std::string& validMnemonics() const { return entries[0][FIELD_MNEMONIC]; }
+  void reset() { entries.assign(1, {}); }
+};
+
+// Builds the table of section `sectionName` of the file: -1 built, 1 when the section has no text.
+int parseSectionTable(const std::string& fileName, ParamTable& table, std::string_view sectionName);
+
+// The value of the first entry whose mnemonic equals `mnemonic` (ignoring case); a single space
+// when no entry has it.
+std::string mnemonicValue(const ParamTable& table, std::string_view mnemonic);
+
+}  // namespace zorvik

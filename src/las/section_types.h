@@ -1,0 +1,38 @@
+// Plain data of the section model, kept in the run state.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace zorvik {
+
+enum SectionRole : int {
+  ROLE_HEADER = 0,
+  ROLE_DATA = 1,
+  ROLE_DEFINITION = 2,
+  ROLE_PARAMETER = 3,
+  ROLE_OTHER = 4,
+};
+
+// One entry of the section index. Sections are numbered 1..n in file order; section number n is
+// element n - 1 of the index.
+struct SectionEntry {
+  std::string name;         // first word of the title after "~"
+  std::string association;  // first word after "|"; " " for a bare "|"; "" without one
+  std::int64_t start = 0;   // 1-based position of the line after the title line
+  int arrayIndex = -1;      // n of a trailing "[n]", -1 without brackets
+  int role = ROLE_OTHER;
+  std::string spare;        // left empty by the index build
+};
+
+// A 3.0 section set sharing one name prefix ("Log" for Log_Parameter/Log_Definition/Log_Data).
+// The section numbers are 1-based, 0 when the set has no section of that role.
+struct SectionGroup {
+  std::string prefix;
+  int data = 0;
+  int definition = 0;
+  int parameter = 0;
+};
+
+}  // namespace zorvik

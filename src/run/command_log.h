@@ -1,0 +1,17 @@
+// The command log: "command.log" in the program's folder, appended one entry at a time.
+// An entry is a header line (date, LAS file, log file, status line, TAB separated) and the
+// message, each ended by CR LF. Faults while writing are swallowed.
+#pragma once
+
+#include <string>
+
+namespace zorvik {
+
+void writeCommandLog(const std::string& message);
+
+// The folder holding the running executable (where command.log, help and documents live).
+std::string programFolder();
+// Lets tests put command.log somewhere of their own; an empty text restores the default.
+void setProgramFolder(const std::string& folder);
+
+}  // namespace zorvik
