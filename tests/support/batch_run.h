@@ -1,0 +1,27 @@
+// Runs the zorvik program in batch mode on a LAS file, with a settings store and a working folder
+// of its own, and gives back the report it wrote (date line normalised) and the command log
+// entries of that run.
+#pragma once
+
+#include <string>
+
+namespace zorvik::testing {
+
+struct BatchResult {
+  std::string report;       // log file contents, the "Date: ..." part of line 2 replaced by "Date: <date>"
+  std::string commandLog;   // command.log entries appended during the run
+  bool reportWritten = false;
+};
+
+// Certifies `lasPath` (copied to a scratch folder under its own file name) as
+// `zorvik <copy> <copy-folder>/out.log [/W]`, the settings store remembering the copy's name.
+BatchResult certifyInBatch(const std::string& lasPath, bool wrapChecks = false);
+
+// Reads a whole file as bytes ("" when missing).
+std::string readBytes(const std::string& path);
+
+// Compares `actual` with the golden file `goldenPath`; when ZORVIK_UPDATE_GOLDEN=1 is set in the
+// environment the golden file is (re)written instead. Returns "" on match, else a diff summary.
+std::string compareWithGolden(const std::string& actual, const std::string& goldenPath);
+
+}  // namespace zorvik::testing
