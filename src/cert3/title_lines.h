@@ -1,0 +1,17 @@
+// The two passes over the tilde lines of a file that judge how section title lines are written:
+// one with the 3.0 rules, one with the 1.2/2.0 rules. Each reads the file itself, from the first
+// line to the last, independently of the section model.
+//
+// Both append findings to `slot` and return CHECK_PASSED (-1) when the slot is empty at the end,
+// CHECK_FAILED (1) when it is not, CHECK_FAULT (0) when the file cannot be opened (slot left as it
+// was). Never throw.
+#pragma once
+
+#include <string>
+
+namespace zorvik {
+
+int checkTitleLines3(const std::string& fileName, std::string& slot);
+int checkTitleLines2(const std::string& fileName, std::string& slot);
+
+}  // namespace zorvik
