@@ -1,0 +1,20 @@
+// Group 4 of the 3.0 catalogue, "Line Structure Syntax Check": every line outside the title lines
+// goes through the 3.0 line parser and each fault it names is filed under its item; then every
+// column data section is read again for blank or comment lines among its data, for lines without
+// the data delimiter, and for having data lines at all.
+//
+// Item 4 (descriptions) is never decided: its slot keeps whatever the driver preset.
+#pragma once
+
+#include <string>
+
+#include "checks/check_table.h"
+
+namespace zorvik {
+
+// Fills slots 1-3 and 5-11. Returns CHECK_FAILED when any of them holds text, CHECK_PASSED
+// otherwise, CHECK_FAULT when an internal fault ended it (slots then hold what was found so far).
+// An unreadable file decides nothing: the slots keep their presets.
+int checkLineStructure3(const std::string& fileName, Slots& slots);
+
+}  // namespace zorvik
