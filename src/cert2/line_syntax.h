@@ -1,0 +1,22 @@
+// Group 4 of the 1.2/2.0 catalogue: the syntax of every header line, the ~ASCII lines, the
+// presence of data lines and the data structure against the WRAP value.
+//
+// Never throws on bad input; every finding goes into the slots.
+#pragma once
+
+#include <string>
+
+#include "checks/check_table.h"
+#include "las/header_line.h"
+
+namespace zorvik {
+
+// Fills slots 1..7 (emptied first) and returns CHECK_PASSED or CHECK_FAILED. Reads the section
+// index, dataDelimiter and dataSectionName from the run state; `curveTable` gives the channel
+// count the wrap analysis samples against. `linesPerRecord` and `channels` receive the wrap
+// analysis' lines per record and channels per record (group 7 needs both); they are 1 and 0
+// when the data could not be analysed.
+int checkLineSyntax(const std::string& fileName, const std::string& wrapValue,
+                    const ParamTable& curveTable, Slots& slots, int& linesPerRecord, int& channels);
+
+}  // namespace zorvik
