@@ -1,0 +1,57 @@
+#include "run/command_log.h"
+
+#include <cstdio>
+#include <filesystem>
+
+#include "run/clock.h"
+#include "run/run_state.h"
+
+namespace zorvik {
+
+namespace {
+
+std::string& folderOverride() {
+  static std::string folder;
+  return folder;
+}
+
+std::string executableFolder() {
+  std::error_code ec;
+  std::filesystem::path exe = std::filesystem::read_symlink("/proc/self/exe", ec);
+  if (ec) return std::filesystem::current_path(ec).string();
+  return exe.parent_path().string();
+}
+
+}  // namespace
+
+std::string programFolder() {
+  if (!folderOverride().empty()) return folderOverride();
+  static const std::string folder = executableFolder();
+  return folder;
+}
+
+void setProgramFolder(const std::string& folder) {
+  folderOverride() = folder;
+}
+
+void writeCommandLog(const std::string& message) {
+  const RunState& state = runState();
+  std::string entry = commandLogDate(localNow());
+  entry += '\t';
+  entry += state.lasFile;
+  entry += '\t';
+  entry += state.logFile;
+  entry += '\t';
+  entry += state.statusLine;
+  entry += "\r\n";
+  entry += message;
+  entry += "\r\n";
+
+  // Opened and closed per entry so that processes writing in turn interleave whole entries.
+  std::FILE* file = std::fopen((programFolder() + "/command.log").c_str(), "ab");
+  if (file == nullptr) return;
+  std::fwrite(entry.data(), 1, entry.size(), file);
+  std::fclose(file);
+}
+
+}  // namespace zorvik
