@@ -1,21 +1,10 @@
 // Placeholders until the text model lands; every answer is the "nothing found" one.
 #include "las/header_line.h"
-#include "las/line_reader.h"
 #include "las/sections.h"
 #include "las/v3_line.h"
 #include "las/value_format.h"
 
 namespace zorvik {
-
-LineReader::~LineReader() { close(); }
-bool LineReader::open(const std::string&) { return false; }
-void LineReader::close() {}
-bool LineReader::readLine(std::string& line) { line.clear(); return false; }
-bool LineReader::atEnd() { return true; }
-void LineReader::seek(std::int64_t) {}
-void LineReader::readRange(std::int64_t, std::int64_t, std::string& out) { out.clear(); }
-bool LineReader::fill() { return false; }
-std::int64_t fileLength(const std::string&) { return -1; }
 
 int classifyHeaderLine(std::string_view) { return LINE_NOT_DELIMITED; }
 int delimiterColon(std::string_view, int& bracePos) { bracePos = 0; return 0; }
