@@ -39,7 +39,13 @@ std::string fieldAssociation(std::string_view line, std::vector<std::string>& pa
 std::string fieldAssociation(std::string_view line);
 
 bool isValidMnemonic(std::string_view text);
+// Number of fields of `text` split on `separator`. A single-space separator trims the text first
+// and counts a run of spaces as one. An empty (or, for a space, blank) text has no fields: 0.
 int countWords(std::string_view text, std::string_view separator);
+
+// Whole-word search of a valid-mnemonic list ("DEPT GR NPHI "), ignoring case: "GR" is found,
+// "G" and "R" are not.
+bool mnemonicListHas(std::string_view list, std::string_view mnemonic);
 
 // Field rows of a parameter table.
 enum ParamField : int {

@@ -1,25 +1,9 @@
 // Placeholders until the text model lands; every answer is the "nothing found" one.
-#include "las/header_line.h"
 #include "las/sections.h"
 #include "las/v3_line.h"
 #include "las/value_format.h"
 
 namespace zorvik {
-
-int classifyHeaderLine(std::string_view) { return LINE_NOT_DELIMITED; }
-int delimiterColon(std::string_view, int& bracePos) { bracePos = 0; return 0; }
-int delimiterColon(std::string_view) { return 0; }
-std::string fieldMnemonic(std::string_view) { return {}; }
-std::string fieldUnit(std::string_view) { return {}; }
-std::string fieldValue(std::string_view) { return {}; }
-std::string fieldDescription(std::string_view) { return {}; }
-std::string fieldFormat(std::string_view) { return {}; }
-std::string fieldAssociation(std::string_view, std::vector<std::string>& parts) { parts.assign(1, {}); return {}; }
-std::string fieldAssociation(std::string_view) { return {}; }
-bool isValidMnemonic(std::string_view) { return false; }
-int countWords(std::string_view, std::string_view) { return 0; }
-int parseSectionTable(const std::string&, ParamTable& table, std::string_view) { table.reset(); return 1; }
-std::string mnemonicValue(const ParamTable&, std::string_view) { return " "; }
 
 std::string parseTitleLine(std::string_view, std::string& association) { association.clear(); return {}; }
 std::string splitArrayIndex(std::string_view, int& index) { index = -1; return {}; }
@@ -38,7 +22,6 @@ bool isLegalAssociationText(std::string_view) { return true; }
 
 int valueMatchesFormat(std::string_view, std::string_view) { return -1; }
 bool isFloatValue(std::string_view, std::string_view) { return false; }
-bool isIntegerValue(std::string_view, std::string_view) { return false; }
 bool isStringValue(std::string_view, std::string_view) { return false; }
 bool isExponentialValue(std::string_view, std::string_view) { return false; }
 int isLegalFormat(std::string_view) { return -1; }

@@ -1,0 +1,216 @@
+#include "las/header_line.h"
+
+#include <algorithm>
+
+#include "las/sections.h"
+#include "las/text.h"
+#include "las/value_format.h"
+#include "run/run_state.h"
+
+namespace zorvik {
+
+namespace {
+
+// 1-based position of the first / last occurrence of a character, 0 when absent.
+std::size_t firstOf(std::string_view s, char c) {
+  std::size_t p = s.find(c);
+  return p == std::string_view::npos ? 0 : p + 1;
+}
+std::size_t lastOf(std::string_view s, char c) {
+  std::size_t p = s.rfind(c);
+  return p == std::string_view::npos ? 0 : p + 1;
+}
+
+// The text strictly between the 1-based positions `from` and `to`.
+std::string_view between(std::string_view s, std::size_t from, std::size_t to) {
+  if (to <= from + 1) return {};
+  return mid(s, from + 1, to - from - 1);
+}
+
+}  // namespace
+
+int classifyHeaderLine(std::string_view line) {
+  std::string_view t = trimView(line);
+  if (t.empty()) return LINE_BLANK;
+  if (t[0] == '#') return LINE_COMMENT;
+  if (t[0] == '~') return LINE_TITLE;
+  std::size_t d = firstOf(t, '.');
+  std::size_t c = lastOf(t, ':');
+  if (d > 0 && c > 0 && d + 1 < c) {
+    // A tab outranks the mnemonic faults: it is what the user has to fix first.
+    if (contains(t, '\t')) return LINE_HAS_TAB;
+    if (d == 1) return LINE_NO_MNEMONIC;
+    if (contains(fieldMnemonic(t), ' ')) return LINE_SPACE_IN_MNEMONIC;
+    return LINE_OK;
+  }
+  return LINE_NOT_DELIMITED;
+}
+
+int delimiterColon(std::string_view line, int& bracePos) {
+  std::string format = fieldFormat(line);
+  if (format.empty()) {
+    bracePos = 0;
+    return static_cast<int>(lastOf(line, ':'));
+  }
+  std::size_t brace = lastOf(line, '{');
+  bracePos = static_cast<int>(brace);
+  // A time format ("hh:mm") carries colons of its own; the delimiter is the last one before it.
+  if (contains(format, ':') && ifindLast(line, format) > brace)
+    return static_cast<int>(lastOf(left(line, brace - 1), ':'));
+  return static_cast<int>(lastOf(line, ':'));
+}
+
+int delimiterColon(std::string_view line) {
+  int bracePos = 0;
+  return delimiterColon(line, bracePos);
+}
+
+std::string fieldMnemonic(std::string_view line) {
+  std::size_t d = firstOf(line, '.');
+  return d == 0 ? std::string() : trim(left(line, d - 1));
+}
+
+std::string fieldUnit(std::string_view line) {
+  std::size_t d = firstOf(line, '.');
+  std::size_t c = lastOf(line, ':');
+  if (d == 0 || c == 0 || d >= c) return {};
+  std::string_view r = between(line, d, c);
+  // A blank right after the period means the line has no unit.
+  if (trimView(r).empty() || r[0] == ' ') return {};
+  r = trimView(r);
+  return std::string(r.substr(0, r.find(' ')));
+}
+
+std::string fieldValue(std::string_view line) {
+  if (classifyHeaderLine(line) != LINE_OK) return {};
+  std::size_t c = static_cast<std::size_t>(delimiterColon(line));
+  std::size_t d = firstOf(line, '.');
+  std::string_view r = between(line, d, c);
+  if (r.empty()) return {};
+  if (r[0] == ' ') return trim(r);
+  // The unit is glued to the period: the value is whatever follows the unit's first blank.
+  if (countWords(r, " ") < 2) return {};
+  return trim(r.substr(r.find(' ') + 1));
+}
+
+std::string fieldDescription(std::string_view line) {
+  int bracePos = 0;
+  int c = delimiterColon(line, bracePos);
+  if (bracePos > c) return trim(mid(line, c + 1, bracePos - c - 1));
+  if (!contains(line, ':')) return {};
+  std::string_view r = trimView(line.substr(line.rfind(':') + 1));
+  if (std::size_t p = r.find('{'); p != std::string_view::npos) r = trimView(r.substr(0, p));
+  if (std::size_t p = r.find('|'); p != std::string_view::npos) r = trimView(r.substr(0, p));
+  return std::string(r);
+}
+
+std::string fieldFormat(std::string_view line) {
+  std::size_t o = firstOf(line, '{');
+  std::size_t e = firstOf(line, '}');
+  if (o == 0 || e == 0 || o > e || e - o < 2) return {};
+  std::string_view f = trimView(between(line, o, e));
+  if (std::size_t p = f.find(';'); p != std::string_view::npos) f = f.substr(0, p);
+  // A leading "A" marks an array format; the element format follows it.
+  if (!f.empty() && (f[0] == 'A' || f[0] == 'a')) f.remove_prefix(1);
+  return std::string(f);
+}
+
+std::string fieldAssociation(std::string_view line, std::vector<std::string>& parts) {
+  parts.assign(1, std::string());
+  std::size_t bar = lastOf(line, '|');
+  if (bar == 0) return {};
+  std::string a = trim(line.substr(bar));
+  const std::string& delimiter = runState().dataDelimiter;
+  parts = delimiter == " " ? splitOnBlanks(a) : split(a, delimiter);
+  return a;
+}
+
+std::string fieldAssociation(std::string_view line) {
+  std::size_t bar = lastOf(line, '|');
+  return bar == 0 ? std::string() : trim(line.substr(bar));
+}
+
+bool isValidMnemonic(std::string_view text) {
+  std::string_view t = trimView(text);
+  if (t.empty()) return false;
+  if (!isVersion3()) return t.find_first_of(" .:") == std::string_view::npos;
+  if (t.find_first_of(", \t.:{}|;") != std::string_view::npos) return false;
+  std::size_t open = firstOf(t, '[');
+  std::size_t close = firstOf(t, ']');
+  if (open == 0 && close == 0) return true;
+  if (open == 0 || close == 0) return false;
+  // An array element: "NAME[3]", the index an unsigned integer closing the mnemonic.
+  if (close != t.size() || open == 1) return false;
+  return isIntegerValue(between(t, open, close), "");
+}
+
+int countWords(std::string_view text, std::string_view separator) {
+  if (separator == " ") {
+    std::string_view t = trimView(text);
+    if (t.empty()) return 0;
+    int words = 1;
+    for (std::size_t i = 1; i < t.size(); ++i)
+      if (t[i] == ' ' && t[i - 1] != ' ') ++words;
+    return words;
+  }
+  if (text.empty()) return 0;
+  if (separator.empty()) return 1;
+  int words = 1;
+  for (std::size_t p = text.find(separator); p != std::string_view::npos;
+       p = text.find(separator, p + separator.size()))
+    ++words;
+  return words;
+}
+
+bool mnemonicListHas(std::string_view list, std::string_view mnemonic) {
+  std::string_view m = trimView(mnemonic);
+  if (m.empty()) return false;
+  // The list is "A B C " : a blank in front makes every entry " NAME ".
+  for (std::size_t p = 0; p < list.size();) {
+    std::size_t end = list.find(' ', p);
+    if (end == std::string_view::npos) end = list.size();
+    if (iequals(list.substr(p, end - p), m)) return true;
+    p = end + 1;
+  }
+  return false;
+}
+
+int parseSectionTable(const std::string& fileName, ParamTable& table,
+                      std::string_view sectionName) {
+  table.reset();
+  std::string text = sectionText(fileName, sectionName);
+  if (text.empty()) return 1;
+  std::erase(text, '\n');
+  // Compared with each line's own period position: a line without a colon of its own still
+  // counts when the section's last colon lies further right than its period.
+  std::size_t lastColon = lastOf(text, ':');
+  const bool keepTabs = runState().dataDelimiter == "\t";
+  std::string validList;
+  std::string line;
+  std::size_t start = 0;
+  while (start <= text.size()) {
+    std::size_t end = text.find('\r', start);
+    if (end == std::string::npos) end = text.size();
+    line.assign(text, start, end - start);
+    start = end + 1;
+    if (!keepTabs) std::replace(line.begin(), line.end(), '\t', ' ');
+    std::size_t d = firstOf(line, '.');
+    if (d < 2 || lastColon <= d) continue;
+    std::string_view t = trimView(line);
+    if (t.empty() || t[0] == '#') continue;
+    table.entries.push_back({fieldMnemonic(line), fieldUnit(line), fieldValue(line),
+                             fieldDescription(line), fieldFormat(line), fieldAssociation(line)});
+    const std::string& mnemonic = table.entries.back()[FIELD_MNEMONIC];
+    if (isValidMnemonic(mnemonic)) validList += mnemonic + " ";
+  }
+  table.entries[0][FIELD_MNEMONIC] = validList;
+  return -1;
+}
+
+std::string mnemonicValue(const ParamTable& table, std::string_view mnemonic) {
+  for (int i = 1; i <= table.lastEntry(); ++i)
+    if (iequals(table.entries[i][FIELD_MNEMONIC], mnemonic)) return table.entries[i][FIELD_VALUE];
+  return " ";
+}
+
+}  // namespace zorvik
