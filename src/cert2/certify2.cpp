@@ -1,8 +1,233 @@
 #include "cert2/certify2.h"
 
+#include <cmath>
+
+#include "cert2/ascii_checks.h"
+#include "cert2/file_value.h"
+#include "cert2/line_syntax.h"
+#include "cert2/version_checks.h"
+#include "cert2/well_checks.h"
+#include "cert3/section_structure.h"
+#include "checks/catalogue.h"
+#include "las/sections.h"
+#include "las/text.h"
+#include "run/command_log.h"
+#include "run/fault.h"
+#include "run/run_state.h"
+#include "run/window_ops.h"
+
 namespace zorvik {
 
-// Not built yet: answers a processing fault.
-int aaCertify2(const std::string&) { return 0; }
+namespace {
+
+constexpr int kWellGroup = 5;
+
+// Stands for the check's result once the user has answered "No" to the cancel question: the
+// recorder keeps nothing for it, so a check that failed just before the answer goes unrecorded.
+constexpr int kAnsweredNo = 7;
+
+// How the run goes on after a check.
+enum class Next { Go, Stop, Cancel, Fail };
+
+// Raised inside the run when a check or a section load fails; ends it through the error path
+// with fault number 0 ("Error: Error in aaCertify2:").
+struct RunFailed {};
+
+WindowOps* activeWindow() {
+  const RunState& rs = runState();
+  return rs.batchMode ? nullptr : rs.window;
+}
+
+void setBusy(bool busy) {
+  if (WindowOps* window = activeWindow()) window->setBusyPointer(busy);
+}
+
+Slots presetSlots(int undecidedRows) {
+  Slots slots;
+  for (int k = 1; k <= undecidedRows; ++k) slots[k] = " ";
+  return slots;
+}
+
+// 1.2/2.0 data is blank delimited; a 3.0 file names its delimiter in ~Version.
+std::string currentDelimiter(const std::string& fileName) {
+  if (!isVersion3()) return " ";
+  return delimiterForWord(lookupFileValue(fileName, "DLM", "Version"));
+}
+
+// Loads a header section by its full name, and outside 3.0 by its one-letter name when the full
+// one is not there. False when loading failed (not when the section is missing).
+bool loadHeaderTable(const std::string& fileName, ParamTable& table, std::string_view name,
+                     std::string_view letter) {
+  int loaded = parseSectionTable(fileName, table, name);
+  if (loaded == 1 && !isVersion3()) loaded = parseSectionTable(fileName, table, letter);
+  return loaded != 0;
+}
+
+// The country note alone in group 5 keeps the stop rule off for the rest of the run.
+bool onlyCountryNoteRecorded(const CheckTable& table) {
+  return table.at(1, COL_RESULT, kWellGroup).empty() &&
+         !trimView(table.at(2, COL_RESULT, kWellGroup)).empty();
+}
+
+// Runs after every check: events, Escape, progress, recording and the stop rule.
+Next afterCheck(int checkNumber, int& checkResult, const Slots& slots) {
+  RunState& rs = runState();
+  CheckTable& table = rs.table2;
+  WindowOps* window = activeWindow();
+
+  if (rs.window != nullptr) rs.window->processEvents();
+  if (rs.escapePressed) {
+    if (window != nullptr && !rs.suppressCancelQuestion) {
+      if (window->askYesNo("Please Confirm!",
+                           "Do you want to cancel the certification in progress?"))
+        return Next::Cancel;
+      checkResult = kAnsweredNo;
+    }
+    rs.escapePressed = false;
+  }
+
+  if (window != nullptr) {
+    const int percent =
+        static_cast<int>(std::lround(100.0 * checkNumber / static_cast<double>(table.lastGroup())));
+    window->setProgress(percent,
+                        "Doing check " + toText(checkNumber) + " (Press ESC to cancel...)");
+  }
+
+  if (checkResult == CHECK_FAILED || checkResult == CHECK_FAULT) {
+    storeGroupResults(table, checkNumber, slots);
+  }
+  if (checkResult == CHECK_FAULT) return Next::Fail;
+
+  if (!onlyCountryNoteRecorded(table) && anyFailure(table)) return Next::Stop;
+  return Next::Go;
+}
+
+// The checks in their order. Returns how the run ended; throws RunFailed or a fault when it
+// cannot go on.
+Next runChecks(const std::string& fileName, const Certify2Checks& checks) {
+  RunState& rs = runState();
+  CheckTable& table = rs.table2;
+  int result = CHECK_FAULT;
+  Next next = Next::Go;
+
+  rs.dataDelimiter = currentDelimiter(fileName);
+  if (!locateStandardSections(fileName)) {
+    Slots none;
+    if (afterCheck(0, result, none) == Next::Cancel) return Next::Cancel;
+    throw RunFailed{};
+  }
+
+  ParamTable versionTable;
+  ParamTable wellTable;
+  ParamTable curveTable;
+  ParamTable paramTable;
+  if (!loadHeaderTable(fileName, versionTable, "Version", "V")) throw RunFailed{};
+  if (!loadHeaderTable(fileName, wellTable, "Well", "W")) throw RunFailed{};
+  if (!rs.curveSectionName.empty() &&
+      parseSectionTable(fileName, curveTable, rs.curveSectionName) == 0) {
+    throw RunFailed{};
+  }
+  if (!rs.paramSectionName.empty() &&
+      parseSectionTable(fileName, paramTable, rs.paramSectionName) == 0) {
+    throw RunFailed{};
+  }
+
+  // Group 2: ~Version. It may confirm the version, so the delimiter is worked out again.
+  std::string wrapValue;
+  Slots slots = presetSlots(6);
+  result = checks.versionSection(versionTable, wrapValue, slots);
+  rs.dataDelimiter = currentDelimiter(fileName);
+  if ((next = afterCheck(2, result, slots)) != Next::Go) return next;
+
+  // Group 3: section titles.
+  slots = presetSlots(3);
+  result = checks.sectionStructure(fileName, slots);
+  if ((next = afterCheck(3, result, slots)) != Next::Go) return next;
+
+  // Group 4: line syntax; also measures the records that group 7 reads.
+  int linesPerRecord = 1;
+  int channels = 0;
+  slots = presetSlots(0);
+  result = checks.lineSyntax(fileName, wrapValue, curveTable, slots, linesPerRecord, channels);
+  const bool asciiHasOnlyData = slots[6].empty();
+  if ((next = afterCheck(4, result, slots)) != Next::Go) return next;
+
+  // Group 5: ~Well mnemonics. A missing country set alone is a note, not a failure.
+  slots = presetSlots(2);
+  result = checks.wellMnemonics(wellTable, table, slots);
+  if (trimView(slots[1]).empty() && !slots[2].empty()) {
+    table.at(2, COL_RESULT, kWellGroup) = slots[2];
+    result = CHECK_PASSED;
+  }
+  WellRange well;
+  if (result == CHECK_PASSED) {
+    well.strt = mnemonicValue(wellTable, "STRT");
+    well.stop = mnemonicValue(wellTable, "STOP");
+    well.step = mnemonicValue(wellTable, "STEP");
+    well.nullValue = mnemonicValue(wellTable, "NULL");
+  }
+  if ((next = afterCheck(kWellGroup, result, slots)) != Next::Go) return next;
+
+  // Group 6: STRT/STOP/STEP/NULL against the data, only when ~ASCII holds nothing but data;
+  // otherwise the result of group 5 stands for it.
+  slots = presetSlots(7);
+  if (asciiHasOnlyData) {
+    rs.nullStopRepaired = false;
+    result = rs.standardSectionsFound
+                 ? checks.indexRange(fileName, well, wrapValue, wellTable, curveTable, slots)
+                 : CHECK_PASSED;
+  }
+  if ((next = afterCheck(6, result, slots)) != Next::Go) return next;
+
+  // Group 7: ~ASCII.
+  slots = presetSlots(0);
+  result = checks.asciiSection(fileName, wrapValue, linesPerRecord, channels, curveTable, slots);
+  return afterCheck(7, result, slots);
+}
+
+}  // namespace
+
+Certify2Checks standardCertify2Checks() {
+  return Certify2Checks{checkVersionSection, checkSectionStructure, checkLineSyntax,
+                        checkWellMnemonics,  checkIndexRange,       checkAsciiSection};
+}
+
+int aaCertify2(const std::string& fileName) {
+  return aaCertify2With(fileName, standardCertify2Checks());
+}
+
+int aaCertify2With(const std::string& fileName, const Certify2Checks& checks) {
+  RunState& rs = runState();
+  setBusy(true);
+  Fault fault;
+  try {
+    switch (runChecks(fileName, checks)) {
+      case Next::Go:
+        setBusy(false);
+        return RUN_COMPLETED;
+      case Next::Stop:
+        // The run driver restores the pointer after a stopped run.
+        return RUN_COMPLETED;
+      case Next::Cancel:
+        setBusy(false);
+        return RUN_STOPPED;
+      case Next::Fail:
+        break;
+    }
+  } catch (const RunFailed&) {
+  } catch (...) {
+    fault = currentFault();
+  }
+
+  // Error path: an Escape still pending turns the fault into a cancel.
+  if (rs.escapePressed) {
+    setBusy(false);
+    return RUN_STOPPED;
+  }
+  writeCommandLog(fault.number == 0 ? std::string("Error: Error in aaCertify2:")
+                                    : handlerMessage("aaCertify2", fault));
+  setBusy(false);
+  return RUN_FAULT;
+}
 
 }  // namespace zorvik

@@ -1,11 +1,42 @@
-// The check driver for LAS 1.2 and 2.0 files.
+// The check driver for LAS 1.2 and 2.0 files: runs groups 2-7 of the 1.2/2.0 catalogue in order,
+// records each group's findings in runState().table2, shows progress, lets the user cancel
+// between checks and stops after the first group that recorded a finding.
+//
+// Never throws: faults inside the checks end the run with RUN_FAULT and a command log entry; the
+// table then keeps what was recorded before the fault.
 #pragma once
 
 #include <string>
 
+#include "cert2/index_range.h"
+#include "checks/check_table.h"
+#include "las/header_line.h"
+
 namespace zorvik {
 
-// Runs groups 2-7 of the 1.2/2.0 catalogue: -1 completed, 1 cancelled, 0 fault.
+// Runs groups 2-7 on `fileName`: RUN_COMPLETED (all run, or stopped after a failing group),
+// RUN_STOPPED (the user cancelled) or RUN_FAULT (a fault ended the run).
 int aaCertify2(const std::string& fileName);
+
+// The check procedures the driver calls, one per group. Tests replace some of them to drive the
+// run through states that real files reach only rarely.
+struct Certify2Checks {
+  int (*versionSection)(const ParamTable& versionTable, std::string& wrapValue, Slots& slots);
+  int (*sectionStructure)(const std::string& fileName, Slots& slots);
+  int (*lineSyntax)(const std::string& fileName, const std::string& wrapValue,
+                    const ParamTable& curveTable, Slots& slots, int& linesPerRecord, int& channels);
+  int (*wellMnemonics)(const ParamTable& wellTable, CheckTable& table, Slots& slots);
+  int (*indexRange)(const std::string& fileName, const WellRange& well,
+                    const std::string& wrapValue, const ParamTable& wellTable,
+                    const ParamTable& curveTable, Slots& slots);
+  int (*asciiSection)(const std::string& fileName, const std::string& wrapValue, int linesPerRecord,
+                      int channels, const ParamTable& curveTable, Slots& slots);
+};
+
+// The procedures aaCertify2 uses.
+Certify2Checks standardCertify2Checks();
+
+// aaCertify2 with the given check procedures.
+int aaCertify2With(const std::string& fileName, const Certify2Checks& checks);
 
 }  // namespace zorvik

@@ -1,7 +1,7 @@
 // Checks of the ~Version section (group 2 of both catalogues) and the data delimiter words.
 //
-// Neither function throws on bad input: findings go into `slots`, and a missing mnemonic is a
-// finding, not a failure of the procedure.
+// Neither function throws on bad input: findings go into the slots, and a missing section or
+// mnemonic is a finding, not a failure of the procedure.
 #pragma once
 
 #include <string>
@@ -12,14 +12,16 @@
 
 namespace zorvik {
 
-// Checks VERS, WRAP (and for 3.0 DLM) of the ~Version table against the run state's sniffed
-// version, confirming or correcting runState().lasVersion from VERS. `wrapValue` receives the
-// WRAP value as written ("" when absent). Returns CHECK_PASSED or CHECK_FAILED; on CHECK_FAULT
-// the slots hold whatever was written before the fault.
+// Checks VERS and WRAP (and for a 3.0 file DLM and the order of the three) in the ~Version table.
+// Fills slots 1..9 (the others are emptied): a single space = not reached, "" = passed, other
+// text = the finding. Finds the section through runState().sectionIndex and confirms or corrects
+// runState().lasVersion from an acceptable VERS value. `wrapValue` receives the WRAP value as
+// written (a single space when WRAP is missing or the section was not found).
+// Returns CHECK_PASSED when slots 1..9 are all empty, else CHECK_FAILED.
 int checkVersionSection(const ParamTable& versionTable, std::string& wrapValue, Slots& slots);
 
-// The delimiter character for a DLM word: "SPACE" -> " ", "COMMA" -> ",", "TAB" -> "\t"
-// (ignoring case and surrounding blanks); "" for any other word.
+// The delimiter character of a DLM word: "SPACE" -> " ", "COMMA" -> ",", "TAB" -> "\t"
+// (ignoring case and surrounding blanks); any other word gives a single space.
 std::string delimiterForWord(std::string_view dlmValue);
 
 }  // namespace zorvik
