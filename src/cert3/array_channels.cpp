@@ -1,10 +1,165 @@
 #include "cert3/array_channels.h"
 
+#include <exception>
+#include <limits>
+#include <string>
+#include <unordered_map>
+
+#include "cert3/section_lines.h"
+#include "las/header_line.h"
+#include "las/line_reader.h"
+#include "las/text.h"
+#include "las/v3_line.h"
+#include "run/run_state.h"
+
 namespace zorvik {
 
-// Not built yet: decides every item as passed.
-int checkArrayChannels(const std::string&, Slots& slots) {
-  for (int k : {1, 2, 3, 4, 5}) slots[k].clear();
+int arrayElementNumber(std::string_view mnemonic) {
+  std::size_t open = mnemonic.find('[');
+  if (open == std::string_view::npos) return -1;
+  std::size_t close = mnemonic.find(']', open + 1);
+  if (close == std::string_view::npos || close == open + 1) return -1;
+  long long number = 0;
+  for (char c : mnemonic.substr(open + 1, close - open - 1)) {
+    if (c < '0' || c > '9') return -1;
+    number = number * 10 + (c - '0');
+    if (number > std::numeric_limits<int>::max()) return -1;
+  }
+  return static_cast<int>(number);
+}
+
+std::string_view arrayBaseMnemonic(std::string_view mnemonic) {
+  return mnemonic.substr(0, std::min(mnemonic.find('['), mnemonic.size()));
+}
+
+std::string_view writtenFormat(std::string_view line) {
+  std::size_t open = line.find('{');
+  if (open == std::string_view::npos) return {};
+  std::size_t close = line.find('}', open + 1);
+  if (close == std::string_view::npos) return {};
+  return trimView(line.substr(open + 1, close - open - 1));
+}
+
+namespace {
+
+// The spacing of an array format: what follows its ";" (trimmed), "" without one.
+std::string_view spacingOf(std::string_view format) {
+  std::size_t semicolon = format.find(';');
+  return semicolon == std::string_view::npos ? std::string_view()
+                                             : trimView(format.substr(semicolon + 1));
+}
+
+bool isArrayFormat(std::string_view format) {
+  return !format.empty() && (format.front() == 'A' || format.front() == 'a');
+}
+
+struct Element {
+  std::string mnemonic;
+  std::string unit;
+  std::string format;  // as written between the braces
+  bool isArray = false;
+};
+
+struct ArrayGroup {
+  int lastNumber = 0;
+  bool closed = false;
+  std::string spacing;
+  std::string unit;
+};
+
+std::vector<Element> definitionLines(LineReader& reader, const SectionEntry& section) {
+  std::vector<Element> lines;
+  V3LineDiagnostics diagnostics;
+  std::string name = section.name;
+  std::string_view line;
+  reader.seek(section.start);
+  while (readSectionLine(reader, line)) {
+    if (parseV3Line(line, name, diagnostics) != V3_PDL) continue;
+    Element e;
+    e.mnemonic = fieldMnemonic(line);
+    e.unit = fieldUnit(line);
+    e.format = std::string(writtenFormat(line));
+    e.isArray = isArrayFormat(e.format);
+    lines.push_back(std::move(e));
+  }
+  return lines;
+}
+
+void checkSection(const std::vector<Element>& lines, Slots& slots) {
+  bool unnumbered = false;
+  for (const Element& e : lines) {
+    if (e.isArray && arrayElementNumber(e.mnemonic) == -1) {
+      slots[1] += e.mnemonic;
+      slots[1] += kLineBreak;
+      unnumbered = true;
+    }
+  }
+  if (unnumbered) return;
+
+  std::unordered_map<std::string, ArrayGroup> groups;  // upper-cased base mnemonic
+  ArrayGroup* current = nullptr;
+  for (const Element& e : lines) {
+    if (!e.isArray) {
+      if (current != nullptr) current->closed = true;
+      current = nullptr;
+      continue;
+    }
+    std::string key = toUpper(arrayBaseMnemonic(e.mnemonic));
+    int number = arrayElementNumber(e.mnemonic);
+    auto [it, opened] = groups.try_emplace(key);
+    ArrayGroup& group = it->second;
+    if (current != &group && current != nullptr) current->closed = true;
+    if (opened) {
+      group.spacing = std::string(spacingOf(e.format));
+      group.unit = e.unit;
+    } else if (group.closed) {
+      slots[3] += e.mnemonic;
+      slots[3] += kLineBreak;
+    }
+    current = &group;
+    // Each out-of-sequence element stands on a line of its own, as in the other array items.
+    if (number != group.lastNumber + 1) {
+      slots[2] += e.mnemonic;
+      slots[2] += kLineBreak;
+    }
+    group.lastNumber = number;
+    if (!opened && spacingOf(e.format) != group.spacing) {
+      slots[4] += e.mnemonic;
+      slots[4] += ", format was: {";
+      slots[4] += e.format;
+      slots[4] += "}";
+      slots[4] += kLineBreak;
+    }
+    // Units are compared exactly: "ms" and "MS" are different units.
+    if (!opened && e.unit != group.unit) {
+      slots[5] += e.mnemonic;
+      slots[5] += ", unit was: ";
+      slots[5] += e.unit;
+      slots[5] += ", first was: ";
+      slots[5] += group.unit;
+      slots[5] += kLineBreak;
+    }
+  }
+}
+
+}  // namespace
+
+int checkArrayChannels(const std::string& fileName, Slots& slots) {
+  for (int k = 1; k <= 5; ++k) slots[k].clear();
+  try {
+    LineReader reader;
+    if (reader.open(fileName)) {
+      // Findings of every definition section are kept, one section after the other.
+      for (const SectionEntry& entry : runState().sectionIndex) {
+        if (entry.role == ROLE_DEFINITION) checkSection(definitionLines(reader, entry), slots);
+      }
+    }
+  } catch (const std::exception&) {
+    return CHECK_FAULT;
+  }
+  for (int k = 1; k <= 5; ++k) {
+    if (!slots[k].empty()) return CHECK_FAILED;
+  }
   return CHECK_PASSED;
 }
 

@@ -1,16 +1,27 @@
 // Group 9 of the 3.0 catalogue, "Array Channel Checks": in every column definition section the
-// elements of an array channel must carry "[n]", be numbered 1..n, stand together, share one
-// spacing in their format and one unit.
+// elements of an array channel (a format written "{A...}") must carry "[n]", be numbered 1..n,
+// stand together, share one spacing in their format and one unit.
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "checks/check_table.h"
 
 namespace zorvik {
 
 // Fills slots 1-5. Returns CHECK_FAILED when any of them holds text, CHECK_PASSED otherwise,
-// CHECK_FAULT when an internal fault ended it (slots then hold what was found so far).
+// CHECK_FAULT when an internal fault ended it (slots then hold what was found so far). A file
+// that cannot be opened has no lines, so nothing is found in it.
 int checkArrayChannels(const std::string& fileName, Slots& slots);
+
+// The whole number between a mnemonic's "[" and the following "]"; -1 when there is none
+// ("NMR[3]" gives 3, "NMR", "NMR[]" and "NMR[x]" give -1).
+int arrayElementNumber(std::string_view mnemonic);
+// The mnemonic without its "[" and what follows ("NMR[3]" gives "NMR").
+std::string_view arrayBaseMnemonic(std::string_view mnemonic);
+// The text between a line's first "{" and the first "}" after it, trimmed, as written (array
+// marker and spacing kept); "" when the line has no such pair.
+std::string_view writtenFormat(std::string_view line);
 
 }  // namespace zorvik

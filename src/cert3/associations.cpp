@@ -1,11 +1,82 @@
 #include "cert3/associations.h"
 
+#include <exception>
+#include <string_view>
+#include <vector>
+
+#include "cert3/mnemonic_table.h"
+#include "cert3/section_lines.h"
+#include "las/header_line.h"
+#include "las/line_reader.h"
+#include "las/text.h"
+#include "las/v3_line.h"
+#include "run/run_state.h"
+
 namespace zorvik {
 
-// Not built yet: decides every item as passed.
-int checkAssociations(const std::string&, Slots& slots) {
-  for (int k : {1, 2}) slots[k].clear();
-  return CHECK_PASSED;
+MnemonicTable buildMnemonicTable(const std::string& fileName) {
+  MnemonicTable table;
+  LineReader reader;
+  if (!reader.open(fileName)) return table;
+  V3LineDiagnostics diagnostics;
+  std::string_view line;
+  for (const SectionEntry& entry : runState().sectionIndex) {
+    // Column data lines carry no mnemonics; skipping them keeps the table to the header lines.
+    if (entry.role == ROLE_DATA) continue;
+    reader.seek(entry.start);
+    std::string section = entry.name;
+    while (readSectionLine(reader, line)) {
+      // The table holds every line the 3.0 parser reads as a parameter line: header, parameter
+      // and definition lines alike.
+      if (parseV3Line(line, section, diagnostics) != V3_PDL) continue;
+      MnemonicRow row;
+      row.mnemonic = fieldMnemonic(line);
+      row.unit = fieldUnit(line);
+      row.value = fieldValue(line);
+      row.description = fieldDescription(line);
+      row.association = fieldAssociation(line, row.entries);
+      table.add(std::move(row));
+    }
+  }
+  return table;
+}
+
+int checkAssociations(const std::string& fileName, Slots& slots) {
+  slots[1].clear();
+  slots[2].clear();
+  try {
+    MnemonicTable table = buildMnemonicTable(fileName);
+    for (int r = 1; r <= table.size(); ++r) {
+      const MnemonicRow& row = table.row(r);
+      if (row.association.empty()) continue;
+      for (const std::string& entry : row.entries) {
+        int target = table.lookup(entry);
+        if (target == -1) {
+          slots[1] += "Association mnemonic ";
+          slots[1] += trimView(entry);
+          slots[1] += " not found in file. Line was :";
+          slots[1] += kLineBreak;
+          slots[1] += rowAsLine(row);
+          slots[1] += kLineBreak;
+        } else if (target == r) {
+          slots[2] += "Line was like : ";
+          slots[2] += rowAsLine(row);
+          slots[2] += kLineBreak;
+        }
+      }
+    }
+    std::vector<bool> circular = rowsInCircularChains(table);
+    for (int r = 1; r <= table.size(); ++r) {
+      if (!circular[static_cast<std::size_t>(r)]) continue;
+      slots[2] += "Circular Association at line: ";
+      slots[2] += kLineBreak;
+      slots[2] += rowAsLine(table.row(r));
+      slots[2] += kLineBreak;
+    }
+  } catch (const std::exception&) {
+    return CHECK_FAULT;
+  }
+  return slots[1].empty() && slots[2].empty() ? CHECK_PASSED : CHECK_FAILED;
 }
 
 }  // namespace zorvik

@@ -1,9 +1,10 @@
 // Group 4 of the 3.0 catalogue, "Line Structure Syntax Check": every line outside the title lines
 // goes through the 3.0 line parser and each fault it names is filed under its item; then every
-// column data section is read again for blank or comment lines among its data, for lines without
-// the data delimiter, and for having data lines at all.
+// column data section is looked at again for blank or comment lines among its data, for lines
+// without the data delimiter, and for having data lines at all.
 //
-// Item 4 (descriptions) is never decided: its slot keeps whatever the driver preset.
+// Item 4 (descriptions) is never decided: its slot keeps whatever the driver preset. Findings
+// about the lines of one kind are listed up to a bound and then only counted.
 #pragma once
 
 #include <string>
@@ -14,7 +15,7 @@ namespace zorvik {
 
 // Fills slots 1-3 and 5-11. Returns CHECK_FAILED when any of them holds text, CHECK_PASSED
 // otherwise, CHECK_FAULT when an internal fault ended it (slots then hold what was found so far).
-// An unreadable file decides nothing: the slots keep their presets.
+// A file that cannot be opened has no lines, so nothing is found in it.
 int checkLineStructure3(const std::string& fileName, Slots& slots);
 
 }  // namespace zorvik

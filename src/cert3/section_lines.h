@@ -1,0 +1,35 @@
+// Reading the lines of one section of a file, from its first line up to the next title line.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "las/line_reader.h"
+#include "las/text.h"
+
+namespace zorvik {
+
+// The line break that ends every finding and every quoted line of a result text.
+inline constexpr std::string_view kLineBreak = "\r\n";
+
+// Reads the next line of the section into `line` (a view valid until the next read). False at
+// the end of the file or at the next title line (a line whose trimmed text begins with "~"),
+// which is then consumed.
+inline bool readSectionLine(LineReader& reader, std::string_view& line) {
+  if (!reader.readLine(line)) return false;
+  std::string_view t = trimView(line);
+  return t.empty() || t.front() != '~';
+}
+
+// True when the line last read was the last line of the file.
+inline bool wasLastLine(const LineReader& reader) {
+  return reader.position() > reader.length();
+}
+
+// A line whose trimmed text is empty or begins with "#".
+inline bool isBlankOrComment(std::string_view line) {
+  std::string_view t = trimView(line);
+  return t.empty() || t.front() == '#';
+}
+
+}  // namespace zorvik
