@@ -1,11 +1,375 @@
 #include "cert3/section_structure.h"
 
-namespace zorvik {
+#include <algorithm>
+#include <exception>
+#include <string_view>
+#include <vector>
 
-// Placeholder until the checks land: everything passes.
-int checkSectionStructure(const std::string&, Slots& slots) {
-  for (int k = 1; k <= 14; ++k) slots[k].clear();
-  return CHECK_PASSED;
+#include "cert3/title_lines.h"
+#include "las/sections.h"
+#include "las/text.h"
+#include "run/run_state.h"
+
+namespace zorvik {
+namespace {
+
+constexpr std::string_view CRLF = "\r\n";
+
+// What the items need of one title: the text as written (without the tilde), its section name
+// (the title without its [n] index), its index, its association and its role.
+struct Title {
+  std::string text;
+  std::string name;
+  int index = -1;
+  std::string association;
+  int role = ROLE_OTHER;
+};
+
+std::vector<Title> titlesOf(const std::vector<SectionEntry>& sections) {
+  std::vector<Title> titles;
+  titles.reserve(sections.size());
+  for (const SectionEntry& s : sections) {
+    Title t;
+    t.text = s.name;
+    int index = -1;
+    t.name = splitArrayIndex(s.name, index);
+    t.index = s.arrayIndex;
+    t.association = s.association;
+    t.role = s.role;
+    titles.push_back(std::move(t));
+  }
+  return titles;
+}
+
+// The title cut before its first "_" and then before its first "[": "Log" for Log_Data[2].
+std::string_view baseName(std::string_view title) {
+  title = title.substr(0, title.find('_'));
+  return title.substr(0, title.find('['));
+}
+
+// The text up to and including the first "_".
+std::string_view upToUnderscore(std::string_view s) {
+  return s.substr(0, s.find('_') + 1);
+}
+
+bool isOneOf(std::string_view s, std::initializer_list<std::string_view> words) {
+  for (std::string_view w : words)
+    if (iequals(s, w)) return true;
+  return false;
+}
+
+bool containsAnyOf(std::string_view s, std::initializer_list<std::string_view> words) {
+  for (std::string_view w : words)
+    if (icontains(s, w)) return true;
+  return false;
+}
+
+void appendOnce(std::string& slot, const std::string& title) {
+  if (!icontains(slot, title)) slot.append(title).append(CRLF);
+}
+
+// -1 when no title equals `text`, else its place in the list.
+int positionOf(const std::vector<Title>& titles, std::string_view text) {
+  for (std::size_t i = 0; i < titles.size(); ++i)
+    if (iequals(titles[i].text, text)) return static_cast<int>(i);
+  return -1;
+}
+
+void minimumSections2(const std::vector<Title>& titles, std::string& slot) {
+  bool version = false, well = false, curve = false, ascii = false;
+  for (const Title& t : titles) {
+    version = version || isOneOf(t.name, {"Version", "V"});
+    well = well || isOneOf(t.name, {"Well", "W"});
+    curve = curve || isOneOf(t.name, {"Curve", "C"});
+    ascii = ascii || isOneOf(t.name, {"ASCII", "A"});
+    if (version && well && curve && ascii) break;
+  }
+  slot.clear();
+  if (!well) slot += "~Well ";
+  if (!version) slot += "~Version ";
+  if (!curve) slot += "~Curve ";
+  if (!ascii) slot += "~ASCII ";
+  if (!slot.empty()) slot.insert(0, " sections missing are : ");
+}
+
+// A _data title and a _Definition title form a set when their suffixes start at the same place,
+// which is how the prefix of the data title is matched against the definition title.
+bool hasMatchingSetPair(const std::vector<Title>& titles) {
+  for (std::size_t i = 0; i < titles.size(); ++i) {
+    const std::size_t dataPos = ifind(titles[i].text, "_data");
+    if (dataPos == 0) continue;
+    for (std::size_t j = 0; j < titles.size(); ++j) {
+      if (j == i) continue;
+      const std::size_t defPos = ifind(titles[j].text, "_Definition");
+      if (defPos == 0) continue;
+      if (iequals(left(titles[i].text, defPos - 1), left(titles[i].text, dataPos - 1))) return true;
+    }
+  }
+  return false;
+}
+
+void minimumSections3(const std::vector<Title>& titles, std::string& slot) {
+  const RunState& rs = runState();
+  bool version = false, well = false, definition = false, data = false;
+  for (const Title& t : titles) {
+    version = version || iequals(t.name, "Version");
+    well = well || iequals(t.name, "Well");
+    definition =
+        definition || (!rs.curveSectionName.empty() && iequals(t.text, rs.curveSectionName));
+    data = data || (!rs.dataSectionName.empty() && iequals(t.text, rs.dataSectionName));
+    if (version && well && definition && data) break;
+  }
+  slot.clear();
+  // A file missing both reports only ~Well: the second finding takes the place of the first.
+  if (!version) slot = "~Version ";
+  if (!well) slot = "~Well";
+  if (!definition && !data && !hasMatchingSetPair(titles))
+    slot += "Minumum one set of Matching _Data/_Definition sections not found";
+}
+
+void recognisedNames(const std::vector<Title>& titles, std::string& slot) {
+  slot.clear();
+  for (const Title& t : titles) {
+    if (isOneOf(t.name, {"Well", "Version", "Parameter", "Curve", "ASCII"})) continue;
+    if (containsAnyOf(t.text, {"_Definition", "_Data", "_Parameter"})) continue;
+    // The title as written tells the user which line to look at, index and all.
+    slot.append("Illegal section is ~").append(t.text).append(CRLF);
+  }
+}
+
+void firstAndSecond(const std::vector<Title>& titles, std::string& slot) {
+  slot.clear();
+  if (titles.size() < 2) return;
+  if (!iequals(titles[0].text, "Version") || !iequals(titles[1].text, "Well"))
+    slot = "1st and 2nd sections are ~" + titles[0].text + " then ~" + titles[1].text;
+}
+
+// Titles whose index could not be read have no section name; item 2 reports them, and they are
+// kept out of the comparisons by name so that they do not pair up with each other.
+bool sameName(const Title& a, const Title& b) {
+  return !a.name.empty() && iequals(a.name, b.name);
+}
+
+void duplicates3(const std::vector<Title>& titles, std::string& slot) {
+  slot.clear();
+  for (std::size_t i = 0; i < titles.size(); ++i) {
+    for (std::size_t j = 0; j < titles.size(); ++j) {
+      if (i == j || !sameName(titles[i], titles[j])) continue;
+      const bool always = isOneOf(titles[i].name, {"Version", "Well"});
+      if (always || titles[i].index == titles[j].index) appendOnce(slot, titles[j].text);
+    }
+  }
+}
+
+void duplicates2(const std::vector<Title>& titles, std::string& slot) {
+  std::string list;
+  for (std::size_t i = 0; i < titles.size(); ++i) {
+    for (std::size_t j = 0; j < titles.size(); ++j) {
+      if (i == j || titles[i].text.empty() || titles[j].text.empty()) continue;
+      if (toUpperAscii(titles[i].text[0]) != toUpperAscii(titles[j].text[0])) continue;
+      if (icontains(list, titles[j].text)) continue;
+      if (!list.empty()) list += ", ";
+      list += titles[j].text;
+    }
+  }
+  slot = list.empty() ? std::string() : "Duplicate section titles : " + list;
+}
+
+void dataTitleDelimiter(const std::vector<Title>& titles, std::string& slot) {
+  slot.clear();
+  for (const Title& t : titles) {
+    if (t.role != ROLE_DATA || iequals(t.text, "ASCII")) continue;
+    if (t.association.empty() || t.association == " ") slot.append(t.text).append(CRLF);
+  }
+}
+
+void matchingAssociation(const std::vector<Title>& titles, std::string& slot) {
+  slot.clear();
+  for (const Title& t : titles) {
+    if (t.role != ROLE_DATA) continue;
+    if (iequals(t.text, "ASCII")) {
+      if (!t.association.empty() && !iequals(t.association, "Curve"))
+        slot.append("Associated Column definition section must be Curve, not ")
+            .append(t.association)
+            .append(CRLF);
+    } else if (contains(t.text, '_') && contains(t.association, '_')) {
+      if (!iequals(upToUnderscore(t.text), upToUnderscore(t.association))) {
+        slot.append(t.text).append(CRLF);
+        return;
+      }
+    } else {
+      slot.append(t.text).append(CRLF);
+    }
+  }
+}
+
+void definitionSuffix(const std::vector<Title>& titles, std::string& slot) {
+  slot.clear();
+  for (const Title& t : titles) {
+    if (icontains(t.text, "_DATA") && !icontains(t.association, "_Definition"))
+      slot.append(t.text).append("|").append(t.association).append(CRLF);
+  }
+}
+
+void definitionExists(const std::vector<Title>& titles, std::string& slot) {
+  slot.clear();
+  for (std::size_t i = 0; i < titles.size(); ++i) {
+    if (!icontains(titles[i].association, "_Definition")) continue;
+    bool found = false;
+    for (std::size_t j = 0; j < titles.size() && !found; ++j)
+      found = j != i && iequals(titles[j].text, titles[i].association);
+    if (!found) slot.append(titles[i].text).append(CRLF);
+  }
+}
+
+void definitionHasData(const std::vector<Title>& titles, std::string& slot) {
+  slot.clear();
+  for (std::size_t i = 0; i < titles.size(); ++i) {
+    if (!icontains(titles[i].text, "_Definition")) continue;
+    bool found = false;
+    for (std::size_t j = 0; j < titles.size() && !found; ++j)
+      found = j != i && titles[j].role == ROLE_DATA &&
+              iequals(baseName(titles[j].text), baseName(titles[i].text));
+    if (!found) slot.append(titles[i].text).append(CRLF);
+  }
+}
+
+void noAssociationOnHeaders(const std::vector<Title>& titles, std::string& slot) {
+  slot.clear();
+  for (const Title& t : titles) {
+    const bool applies = containsAnyOf(t.text, {"Version", "Well", "_Parameter", "_Definition"}) ||
+                         isOneOf(t.name, {"Parameter", "Curve"});
+    if (!applies || t.association.empty()) continue;
+    slot.append("~").append(t.text);
+    if (t.association == " ")
+      slot.append(" section title has a illegal | delimiter");
+    else
+      slot.append(
+          " section title has a illegal | delimiter AND an illegal association section title.");
+    slot.append(CRLF);
+  }
+}
+
+void setOrder(const std::vector<Title>& titles, std::string& slot) {
+  slot.clear();
+  for (std::size_t k = 0; k < titles.size(); ++k) {
+    const Title& data = titles[k];
+    if (data.role != ROLE_DATA) continue;
+    std::string definition = data.association;
+    std::string parameter = std::string(baseName(data.text)) + "_Parameter";
+    if (data.index != -1) parameter += "[" + toText(data.index) + "]";
+    if (iequals(data.text, "ASCII")) {
+      definition = "Curve";
+      parameter = "Parameter";
+    }
+    const int defPos = positionOf(titles, definition);
+    const int paramPos = positionOf(titles, parameter);
+    const int dataPos = static_cast<int>(k);
+    if (defPos == -1) {
+      slot.append("Missing ").append(definition).append(CRLF);
+    } else if (paramPos != -1) {
+      if (!(paramPos < defPos && defPos < dataPos))
+        slot.append("Expected order: ")
+            .append(parameter + "/" + definition + "/" + data.text)
+            .append(CRLF);
+    } else if (!(defPos < dataPos)) {
+      slot.append("Expected order: ").append(definition + "/" + data.text).append(CRLF);
+    }
+  }
+}
+
+void noIndexOnFixedSections(const std::vector<Title>& titles, std::string& slot) {
+  slot.clear();
+  for (const Title& t : titles) {
+    const std::string_view base = baseName(t.text);
+    if (t.index != -1 && isOneOf(base, {"Version", "Well", "Curve", "Parameter", "ASCII"}))
+      slot.append(base).append(CRLF);
+  }
+}
+
+// Groups of titles sharing a section name, in list order; a title joins only the first group in
+// which it is met. `member` selects the titles that take part.
+template <typename Pred>
+std::vector<std::vector<std::size_t>> groupsByName(const std::vector<Title>& titles, Pred member) {
+  std::vector<std::vector<std::size_t>> groups;
+  std::vector<bool> taken(titles.size(), false);
+  for (std::size_t i = 0; i < titles.size(); ++i) {
+    if (taken[i] || !member(titles[i]) || titles[i].name.empty()) continue;
+    std::vector<std::size_t> group{i};
+    taken[i] = true;
+    for (std::size_t j = i + 1; j < titles.size(); ++j) {
+      if (!taken[j] && member(titles[j]) && sameName(titles[i], titles[j])) {
+        group.push_back(j);
+        taken[j] = true;
+      }
+    }
+    groups.push_back(std::move(group));
+  }
+  return groups;
+}
+
+void identicalTitlesIndexed(const std::vector<Title>& titles, std::string& slot) {
+  slot.clear();
+  for (const auto& group : groupsByName(titles, [](const Title&) { return true; })) {
+    if (group.size() < 2) continue;
+    for (std::size_t i : group)
+      if (titles[i].index == -1) appendOnce(slot, titles[i].text);
+  }
+}
+
+void sequentialIndexes(const std::vector<Title>& titles, std::string& slot) {
+  slot.clear();
+  for (const auto& group : groupsByName(titles, [](const Title& t) { return t.index != -1; })) {
+    if (group.size() == 1) {
+      if (titles[group[0]].index != 1) slot.append(titles[group[0]].text).append(CRLF);
+      continue;
+    }
+    std::vector<int> indexes;
+    for (std::size_t i : group) indexes.push_back(titles[i].index);
+    std::stable_sort(indexes.begin(), indexes.end());
+    for (std::size_t k = 0; k < indexes.size(); ++k)
+      if (indexes[k] != static_cast<int>(k + 1)) slot.append(titles[group[0]].name).append(CRLF);
+  }
+}
+
+}  // namespace
+
+int checkSectionStructure(const std::string& fileName, Slots& slots) {
+  try {
+    const bool v3 = isVersion3();
+    for (int k = 1; k <= 14; ++k) slots[k] = (v3 || k <= 3) ? " " : "";
+
+    RunState& rs = runState();
+    if (rs.sectionIndex.empty() && !buildSectionIndex(fileName)) return CHECK_FAULT;
+    const std::vector<Title> titles = titlesOf(rs.sectionIndex);
+
+    if (!v3) {
+      minimumSections2(titles, slots[1]);
+      slots[3].clear();
+      checkTitleLines2(fileName, slots[3]);
+      duplicates2(titles, slots[2]);
+    } else {
+      minimumSections3(titles, slots[1]);
+      recognisedNames(titles, slots[2]);
+      firstAndSecond(titles, slots[3]);
+      duplicates3(titles, slots[4]);
+      dataTitleDelimiter(titles, slots[5]);
+      matchingAssociation(titles, slots[6]);
+      definitionSuffix(titles, slots[7]);
+      definitionExists(titles, slots[8]);
+      definitionHasData(titles, slots[9]);
+      noAssociationOnHeaders(titles, slots[10]);
+      setOrder(titles, slots[11]);
+      noIndexOnFixedSections(titles, slots[12]);
+      identicalTitlesIndexed(titles, slots[13]);
+      sequentialIndexes(titles, slots[14]);
+    }
+    for (int k = 1; k <= 14; ++k)
+      if (!slots[k].empty()) return CHECK_FAILED;
+    return CHECK_PASSED;
+  } catch (const std::exception&) {
+    return CHECK_FAULT;
+  }
 }
 
 }  // namespace zorvik

@@ -1,13 +1,84 @@
 #include "cert3/title_lines.h"
 
-namespace zorvik {
+#include <string_view>
 
-// Placeholders until the passes land.
-int checkTitleLines3(const std::string&, std::string&) {
-  return -1;
+#include "checks/check_table.h"
+#include "las/line_reader.h"
+#include "las/text.h"
+
+namespace zorvik {
+namespace {
+
+constexpr std::string_view CRLF = "\r\n";
+constexpr std::string_view NOT_FIRST = "Tilde not first non-space character of the line";
+constexpr std::string_view MISSING_TITLE = "Missing section title";
+
+// How the 1.2/2.0 pass names a character that should have been an upper-case letter.
+std::string describeCharacter(unsigned char c) {
+  if (c == '\t') return "<TAB>";
+  if (c == ' ') return "<space>";
+  if (c < 32 || c >= 128)
+    return "Unprintable control character ASCII code =" + toText(static_cast<long long>(c));
+  return std::string(1, static_cast<char>(c));
 }
-int checkTitleLines2(const std::string&, std::string&) {
-  return -1;
+
+void judgeLine3(std::string_view line, std::string& slot) {
+  const std::string_view trimmed = trimView(line);
+  if (!trimmed.empty() && trimmed.front() == '#') return;  // a comment may mention a tilde
+  if (trimmed.find('~') != 0) {
+    slot.append(NOT_FIRST).append(CRLF).append(line).append(CRLF);
+  } else if (trimmed.size() < 2) {
+    slot.append(MISSING_TITLE).append(CRLF).append(trimmed).append(CRLF);
+  } else if (std::string_view("][|\t, ").find(trimmed[1]) != std::string_view::npos) {
+    slot.append("Tilde followed by illegal characters; space, comma, tab, | or [ ]")
+        .append(CRLF)
+        .append(trimmed)
+        .append(CRLF);
+  }
+}
+
+// The entries of this pass that quote the offending line end with the line itself, so a following
+// entry continues on the same report line; the missing-title entry alone ends with a line break.
+void judgeLine2(std::string_view line, std::string& slot) {
+  const std::string_view trimmed = trimView(line);
+  if (trimmed.find('~') != 0) {
+    slot.append(NOT_FIRST).append(CRLF).append(line);
+  } else if (trimmed.size() < 2) {
+    slot.append(MISSING_TITLE).append(CRLF).append(trimmed).append(CRLF);
+  } else {
+    const auto c = static_cast<unsigned char>(trimmed[1]);
+    if (c >= 'A' && c <= 'Z') return;
+    slot.append("Tilde not followed by upper case letter, A-Z. Character was ")
+        .append(describeCharacter(c))
+        .append(" on line:")
+        .append(CRLF)
+        .append(trimmed);
+  }
+}
+
+int runPass(const std::string& fileName, std::string& slot,
+            void (*judge)(std::string_view, std::string&)) {
+  try {
+    LineReader reader;
+    if (!reader.open(fileName)) return CHECK_FAULT;
+    std::string_view line;
+    while (reader.readLine(line)) {
+      if (line.find('~') != std::string_view::npos) judge(line, slot);
+    }
+    return slot.empty() ? CHECK_PASSED : CHECK_FAILED;
+  } catch (const std::exception&) {
+    return CHECK_FAULT;
+  }
+}
+
+}  // namespace
+
+int checkTitleLines3(const std::string& fileName, std::string& slot) {
+  return runPass(fileName, slot, judgeLine3);
+}
+
+int checkTitleLines2(const std::string& fileName, std::string& slot) {
+  return runPass(fileName, slot, judgeLine2);
 }
 
 }  // namespace zorvik

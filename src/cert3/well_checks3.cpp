@@ -1,0 +1,128 @@
+#include "cert3/well_checks3.h"
+
+#include <exception>
+#include <initializer_list>
+
+#include "las/sections.h"
+#include "las/text.h"
+
+namespace zorvik {
+namespace {
+
+constexpr std::string_view CRLF = "\r\n";
+
+constexpr std::string_view REQUIRED[] = {"STRT", "STOP", "STEP", "NULL", "COMP",
+                                         "WELL", "FLD",  "LOC",  "DATE", "SRVC"};
+constexpr std::string_view LOCATION_A[] = {"X", "Y", "GDAT", "HZCS"};
+constexpr std::string_view LOCATION_B[] = {"LATI", "LONG", "GDAT"};
+constexpr std::string_view CANADA[] = {"PROV", "UWI", "LIC"};
+constexpr std::string_view UNITED_STATES[] = {"STAT", "CNTY", "API"};
+
+// Entry of the first line with this mnemonic, 0 when none.
+int entryOf(const ParamTable& table, std::string_view mnemonic) {
+  for (int e = 1; e <= table.lastEntry(); ++e)
+    if (iequals(table.at(FIELD_MNEMONIC, e), mnemonic)) return e;
+  return 0;
+}
+
+template <std::size_t N>
+void appendMissing(const ParamTable& table, const std::string_view (&list)[N], std::string& slot) {
+  for (std::string_view m : list)
+    if (entryOf(table, m) == 0) slot.append(m).append(CRLF);
+}
+
+// The missing mnemonics of a location set, joined by ", ", leaving GDAT out.
+template <std::size_t N>
+std::string missingLocation(const ParamTable& table, const std::string_view (&list)[N],
+                            bool& complete) {
+  std::string out;
+  complete = true;
+  for (std::string_view m : list) {
+    if (entryOf(table, m) != 0) continue;
+    complete = false;
+    if (m == "GDAT") continue;
+    if (!out.empty()) out += ", ";
+    out += m;
+  }
+  return out;
+}
+
+// The line of `mnemonic` in section `section` as written; rebuilt from the table's fields when the
+// section text cannot give it.
+std::string lineAsWritten(const std::string& fileName, std::string_view section,
+                          const ParamTable& table, int entry) {
+  const std::string_view mnemonic = table.at(FIELD_MNEMONIC, entry);
+  const std::string text = sectionText(fileName, section);
+  std::size_t begin = 0;
+  while (begin < text.size()) {
+    std::size_t end = text.find('\r', begin);
+    if (end == std::string::npos) end = text.size();
+    std::string line = replaceAll(std::string_view(text).substr(begin, end - begin), "\n", "");
+    const std::string_view trimmed = trimView(line);
+    if (!trimmed.empty() && trimmed.front() != '#' && iequals(fieldMnemonic(line), mnemonic))
+      return line;
+    begin = end + 1;
+  }
+  return std::string(mnemonic) + "." + table.at(FIELD_UNIT, entry) + " " +
+         table.at(FIELD_VALUE, entry) + " : " + table.at(FIELD_DESCRIPTION, entry);
+}
+
+void countryChecks(const std::string& fileName, const ParamTable& well, int ctry, Slots& slots) {
+  const std::string value = trim(well.at(FIELD_VALUE, ctry));
+  slots[3].clear();
+  slots[4].clear();
+  slots[5].clear();
+  const bool badLength = !value.empty() && value.size() != 2;
+  const bool badLetters =
+      value.size() >= 2 && (!isAsciiLetter(value[0]) || !isAsciiLetter(value[1]));
+  if (badLength || badLetters) {
+    const std::string line = lineAsWritten(fileName, "Well", well, ctry);
+    if (badLength) slots[3].append(line).append(CRLF);
+    if (badLetters) slots[4].append(line).append(CRLF);
+  }
+  if (iequals(value, "ca")) appendMissing(well, CANADA, slots[5]);
+  if (iequals(value, "us")) appendMissing(well, UNITED_STATES, slots[5]);
+}
+
+void locationChecks(const ParamTable& well, std::string& slot) {
+  slot.clear();
+  bool completeA = false, completeB = false;
+  const std::string missingA = missingLocation(well, LOCATION_A, completeA);
+  const std::string missingB = missingLocation(well, LOCATION_B, completeB);
+  if (completeA || completeB) return;
+  // One line per set in the order the title names them; GDAT, shared by both, is named once last.
+  if (!missingA.empty()) slot.append(missingA).append(CRLF);
+  if (!missingB.empty()) slot.append(missingB).append(CRLF);
+  if (entryOf(well, "GDAT") == 0) slot.append("GDAT").append(CRLF);
+}
+
+}  // namespace
+
+bool isAsciiLetter(char c) {
+  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+int checkWellSection3(const std::string& fileName, const ParamTable& wellTable, Slots& slots) {
+  try {
+    slots[1].clear();
+    appendMissing(wellTable, REQUIRED, slots[1]);
+
+    const int ctry = entryOf(wellTable, "CTRY");
+    if (ctry == 0) {
+      slots[2] = " ";  // undecided: the country items cannot be judged without the line
+    } else {
+      slots[2].clear();
+      countryChecks(fileName, wellTable, ctry, slots);
+    }
+
+    locationChecks(wellTable, slots[6]);
+
+    for (int k = 1; k <= 6; ++k)
+      if (!slots[k].empty()) return CHECK_FAILED;
+    return CHECK_PASSED;
+  } catch (const std::exception&) {
+    return CHECK_FAULT;
+  }
+}
+
+}  // namespace zorvik
