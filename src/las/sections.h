@@ -21,10 +21,19 @@ std::string splitArrayIndex(std::string_view name, int& index);
 // cannot be opened (the index then stays empty).
 bool buildSectionIndex(const std::string& fileName);
 // Start position of the first section named `name` (building the index when empty); 0 when none.
-std::int64_t findSection(const std::string& fileName, std::string_view name, std::string& foundName);
-// Positions `file` at the first line of section `name` and returns that position (0 when none).
+std::int64_t findSection(const std::string& fileName, std::string_view name,
+                         std::string& foundName);
+// Positions `file` at the first line of section `name` (found through the index of the run's LAS
+// file) and returns that position; 0 when none. An empty name rewinds the file and gives 0. With
+// no index built, the open file itself is searched for the first line starting "~" + name: the
+// result is then the position of that title line, and the file is left just after it.
 std::int64_t seekSection(LineReader& file, std::string_view name);
-// Raw text of the section's lines (CR LF kept); "" when the section is missing.
+
+// Largest text `sectionText` gives back; a longer section is cut there. Header sections are far
+// smaller; the limit only keeps a mistaken request for a huge data section from eating memory.
+inline constexpr std::int64_t SECTION_TEXT_LIMIT = 64 * 1024 * 1024;
+// Raw text of the first section named `name` (CR LF kept, ending with the CR of its last line);
+// "" when the section is missing or empty.
 std::string sectionText(const std::string& fileName, std::string_view name);
 // Rebuilds the index and sets dataSectionName, curveSectionName, paramSectionName and
 // standardSectionsFound in the run state. True once the search has run.

@@ -1,0 +1,245 @@
+#include "las/sections.h"
+
+#include <algorithm>
+#include <charconv>
+#include <climits>
+
+#include "las/line_reader.h"
+#include "las/text.h"
+#include "run/run_state.h"
+
+namespace zorvik {
+
+namespace {
+
+bool isTitle(std::string_view line) {
+  std::string_view t = trimLeftView(line);
+  return !t.empty() && t[0] == '~';
+}
+
+int roleOfName(std::string_view name, bool v3) {
+  // Tested in this order, so "Well_Data" is data and not a header.
+  if (iequals(name, "Version") || iequals(name, "Well") || iequals(name, "Other"))
+    return ROLE_HEADER;
+  // One-letter names are an older habit that 3.0 no longer allows.
+  if (!v3 && (iequals(name, "V") || iequals(name, "W") || iequals(name, "O"))) return ROLE_HEADER;
+  if (iequals(name, "ASCII") || icontains(name, "_Data") || (!v3 && iequals(name, "A")))
+    return ROLE_DATA;
+  if (iequals(name, "Curve") || icontains(name, "_Definition") || (!v3 && iequals(name, "C")))
+    return ROLE_DEFINITION;
+  if (iequals(name, "Parameter") || icontains(name, "_Parameter") || (!v3 && iequals(name, "P")))
+    return ROLE_PARAMETER;
+  return ROLE_OTHER;
+}
+
+// Index (0-based) of the first section named `name`, -1 when none.
+int firstSectionNamed(std::string_view name) {
+  const auto& index = runState().sectionIndex;
+  for (std::size_t i = 0; i < index.size(); ++i)
+    if (iequals(index[i].name, name)) return static_cast<int>(i);
+  return -1;
+}
+
+std::string_view cutAtSpace(std::string_view s) {
+  return trimView(s.substr(0, s.find(' ')));
+}
+
+void addToGroups(const SectionEntry& entry, int sectionNumber) {
+  std::size_t underscore = entry.name.find('_');
+  if (underscore == std::string::npos) return;
+  std::string prefix = trim(std::string_view(entry.name).substr(0, underscore));
+  auto& groups = runState().sectionGroups;
+  auto group = std::find_if(groups.begin(), groups.end(),
+                            [&](const SectionGroup& g) { return iequals(g.prefix, prefix); });
+  if (group == groups.end()) {
+    groups.push_back(SectionGroup{prefix, 0, 0, 0});
+    group = groups.end() - 1;
+  }
+  // A later section of the same role and prefix replaces an earlier one.
+  if (entry.role == ROLE_DATA) group->data = sectionNumber;
+  if (entry.role == ROLE_DEFINITION) group->definition = sectionNumber;
+  if (entry.role == ROLE_PARAMETER) group->parameter = sectionNumber;
+}
+
+}  // namespace
+
+std::string parseTitleLine(std::string_view line, std::string& association) {
+  association.clear();
+  std::string_view t = trimView(line);
+  if (t.size() < 2 || t[0] != '~') return {};
+  t = trimView(t.substr(1));
+  if (std::size_t bar = t.find('|'); bar != std::string_view::npos) {
+    association = std::string(cutAtSpace(trimView(t.substr(bar + 1))));
+    // One blank tells "a bar with nothing after it" from "no bar".
+    if (association.empty()) association = " ";
+    t = trimView(t.substr(0, bar));
+  }
+  return std::string(cutAtSpace(t));
+}
+
+std::string splitArrayIndex(std::string_view name, int& index) {
+  index = -1;
+  std::string_view t = trimView(name);
+  std::size_t open = t.find('[');
+  std::size_t close = t.find(']');
+  const auto npos = std::string_view::npos;
+  if (open == npos && close == npos) return std::string(cutAtSpace(t));
+  if (open == npos || close == npos || close < open) return {};
+  if (t.back() != ']' || t.rfind('[') != open || t.rfind(']') != close) return {};
+  std::string_view digits = t.substr(open + 1, close - open - 1);
+  if (!std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; }))
+    return {};
+  long long value = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  if (digits.size() > 10 || value > INT_MAX) value = INT_MAX;  // absurd indexes saturate
+  index = static_cast<int>(value);
+  return std::string(cutAtSpace(trimView(t.substr(0, open))));
+}
+
+bool buildSectionIndex(const std::string& fileName) {
+  RunState& rs = runState();
+  rs.sectionIndex.clear();
+  rs.sectionGroups.clear();
+  LineReader reader;
+  if (!reader.open(fileName)) return false;
+  const bool v3 = isVersion3();
+
+  std::string_view line;
+  std::string association;
+  while (reader.readLine(line)) {
+    if (!isTitle(line)) continue;
+    std::string name = parseTitleLine(line, association);
+    if (name.empty()) continue;
+    SectionEntry entry;
+    entry.start = reader.position();
+    splitArrayIndex(name, entry.arrayIndex);
+    if (!v3 && iequals(name, "ASCII") && trimView(association).empty()) association = "Curve";
+    entry.name = std::move(name);
+    entry.association = association;
+    rs.sectionIndex.push_back(std::move(entry));
+  }
+
+  if (!v3) {
+    // A 1.2/2.0 data section always belongs to the file's (last) curve section.
+    std::string curve;
+    for (const SectionEntry& e : rs.sectionIndex)
+      if (istartsWith(e.name, "C")) curve = e.name;
+    if (!curve.empty()) {
+      for (SectionEntry& e : rs.sectionIndex) {
+        if (iequals(e.name, "ASCII") || iequals(e.name, "A")) {
+          e.association = curve;
+          break;
+        }
+      }
+    }
+  }
+
+  for (std::size_t i = 0; i < rs.sectionIndex.size(); ++i) {
+    SectionEntry& e = rs.sectionIndex[i];
+    e.role = roleOfName(e.name, v3);
+    addToGroups(e, static_cast<int>(i) + 1);
+  }
+  return true;
+}
+
+std::int64_t findSection(const std::string& fileName, std::string_view name,
+                         std::string& foundName) {
+  foundName.clear();
+  if (runState().sectionIndex.empty() && !buildSectionIndex(fileName)) return 0;
+  int i = firstSectionNamed(name);
+  if (i < 0) return 0;
+  foundName = runState().sectionIndex[i].name;
+  return runState().sectionIndex[i].start;
+}
+
+std::int64_t seekSection(LineReader& file, std::string_view name) {
+  name = trimView(name);
+  if (name.empty()) {
+    if (file.isOpen()) file.seek(1);
+    return 0;
+  }
+  if (!runState().sectionIndex.empty()) {
+    std::string found;
+    std::int64_t pos = findSection(runState().lasFile, name, found);
+    if (pos != 0 && file.isOpen()) file.seek(pos);
+    return pos;
+  }
+  // No index to consult: look for the title in the open file itself.
+  if (!file.isOpen()) return 0;
+  file.seek(1);
+  std::string title = "~" + std::string(name);
+  std::string_view line;
+  while (file.readLine(line))
+    if (istartsWith(trimLeftView(line), title)) return file.lineStart();
+  return 0;
+}
+
+std::string sectionText(const std::string& fileName, std::string_view name) {
+  std::string found;
+  std::int64_t start = findSection(fileName, name, found);
+  const auto& index = runState().sectionIndex;
+  int i = firstSectionNamed(name);
+  std::int64_t length = fileLength(fileName);
+  std::int64_t end = length + 1;  // one past the last byte: the last section reads to the end
+  std::string nextTitle;
+  if (i >= 0 && static_cast<std::size_t>(i) + 1 < index.size()) {
+    end = index[i + 1].start;
+    nextTitle = "~" + index[i + 1].name;
+  }
+  if (start == 0 || end <= start || end > length + 1) return {};
+
+  LineReader reader(fileName);
+  std::string text;
+  std::int64_t count = std::min<std::int64_t>(end - start, SECTION_TEXT_LIMIT);
+  reader.readRange(start, count, text);
+  if (!nextTitle.empty()) {
+    // The range ends after the next title line: drop it and the line feed before it.
+    std::size_t p = ifindLast(text, nextTitle);
+    if (p != 0) text.resize(p >= 2 ? p - 2 : 0);
+  }
+  return text;
+}
+
+bool locateStandardSections(const std::string& fileName) {
+  RunState& rs = runState();
+  rs.dataSectionName.clear();
+  rs.curveSectionName.clear();
+  rs.paramSectionName.clear();
+  rs.standardSectionsFound = false;
+  buildSectionIndex(fileName);
+  const bool v3 = isVersion3();
+
+  std::string curve, data, param;         // the standard names
+  std::string logDef, logData, logParam;  // 3.0 fall-backs by base name
+  int unused = 0;
+  for (const SectionEntry& e : rs.sectionIndex) {
+    if (iequals(e.name, "Curve") || (!v3 && iequals(e.name, "C"))) curve = e.name;
+    if (iequals(e.name, "ASCII") || (!v3 && iequals(e.name, "A"))) data = e.name;
+    if (iequals(e.name, "Parameter") || (!v3 && iequals(e.name, "P"))) param = e.name;
+    if (v3) {
+      std::string base = splitArrayIndex(e.name, unused);
+      if (iequals(base, "Log_Definition")) logDef = e.name;
+      if (iequals(base, "Log_Data")) logData = e.name;
+      if (iequals(base, "Log_Parameter")) logParam = e.name;
+    }
+  }
+  if (v3) {
+    if (curve.empty()) curve = logDef;
+    if (data.empty()) data = logData;
+    if (param.empty()) param = logParam;
+  }
+  rs.curveSectionName = curve;
+  rs.dataSectionName = data;
+  rs.paramSectionName = param;
+  rs.standardSectionsFound = !data.empty() || !curve.empty() || (v3 && !param.empty());
+  return true;
+}
+
+int sectionRoleOf(std::string_view name) {
+  const auto& index = runState().sectionIndex;
+  for (std::size_t i = index.size(); i-- > 0;)
+    if (iequals(index[i].name, name)) return index[i].role;
+  return -1;
+}
+
+}  // namespace zorvik
