@@ -1,6 +1,5 @@
 // Placeholders until the text model lands; every answer is the "nothing found" one.
 #include "las/v3_line.h"
-#include "las/value_format.h"
 
 namespace zorvik {
 
@@ -9,12 +8,5 @@ bool isLegalUnitText(std::string_view) { return true; }
 bool isLegalValueText(std::string_view) { return true; }
 bool isLegalDescriptionText(std::string_view) { return true; }
 bool isLegalAssociationText(std::string_view) { return true; }
-
-int valueMatchesFormat(std::string_view, std::string_view) { return -1; }
-bool isFloatValue(std::string_view, std::string_view) { return false; }
-bool isStringValue(std::string_view, std::string_view) { return false; }
-bool isExponentialValue(std::string_view, std::string_view) { return false; }
-int isLegalFormat(std::string_view) { return -1; }
-bool isLegalFormatElement(std::string_view) { return true; }
 
 }  // namespace zorvik
