@@ -131,8 +131,9 @@ void recognisedNames(const std::vector<Title>& titles, std::string& slot) {
   slot.clear();
   for (const Title& t : titles) {
     if (isOneOf(t.name, {"Well", "Version", "Parameter", "Curve", "ASCII"})) continue;
-    if (containsAnyOf(t.text, {"_Definition", "_Data", "_Parameter"})) continue;
-    // The title as written tells the user which line to look at, index and all.
+    if (containsAnyOf(t.name, {"_Definition", "_Data", "_Parameter"})) continue;
+    // The title as written tells the user which line to look at, index and all (a title whose
+    // index cannot be read has no name at all).
     slot.append("Illegal section is ~").append(t.text).append(CRLF);
   }
 }

@@ -4,9 +4,14 @@
 
 #include <vector>
 
+#include "cert3/scratch_file.h"
+#include "las/sections.h"
+#include "run/run_state.h"
 
 namespace zorvik {
 namespace {
+
+using testing::ScratchFile;
 
 // A ~Well table with the given mnemonic/value pairs (units and descriptions left empty).
 ParamTable wellTable(const std::vector<std::pair<std::string, std::string>>& lines) {
@@ -102,6 +107,19 @@ TEST(WellChecks3, ItemsFollowTheWellLines) {
     EXPECT_EQ(checkWellSection3("/nonexistent/zorvik.las", wellTable(row.lines), slots), row.code);
     for (int k = 1; k <= 6; ++k) EXPECT_EQ(slots[k], row.expected[k]) << "item " << k;
   }
+}
+
+TEST(WellChecks3, CtryLineIsQuotedAsWritten) {
+  ScratchFile file(
+      testing::crlfLines({"~Version", "VERS. 3.0 : v", "~Well", "# CTRY. XX : a comment",
+                          " CTRY .   Canada  : Country", "~Curve"}));
+  resetRunState();  // the section index is the run's: build it for this file
+  runState().lasVersion = 3.0f;
+  buildSectionIndex(file.path());
+  Slots slots;
+  const ParamTable well = wellTable({{"CTRY", "Canada"}});
+  EXPECT_EQ(checkWellSection3(file.path(), well, slots), CHECK_FAILED);
+  EXPECT_EQ(slots[3], " CTRY .   Canada  : Country\r\n");
 }
 
 TEST(WellChecks3, LetterTest) {

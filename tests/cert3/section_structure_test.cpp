@@ -1,0 +1,195 @@
+#include "cert3/section_structure.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <vector>
+
+#include "cert3/scratch_file.h"
+#include "las/sections.h"
+#include "run/run_state.h"
+
+namespace zorvik {
+namespace {
+
+using testing::ScratchFile;
+
+struct StructureRow {
+  const char* what;
+  std::vector<std::string> titles;    // title lines of the file, in order
+  std::map<int, std::string> failed;  // items expected to hold findings; all others empty
+};
+
+// Certifies the structure of a file made of the given title lines, each followed by one line.
+int runStructure(float version, const std::vector<std::string>& titles, Slots& slots) {
+  std::string text;
+  for (const std::string& t : titles) text += t + "\r\n x.  1 : y\r\n";
+  ScratchFile file(text);
+  resetRunState();
+  runState().lasVersion = version;
+  locateStandardSections(file.path());
+  return checkSectionStructure(file.path(), slots);
+}
+
+void expectItems(const StructureRow& row, const Slots& slots, int code) {
+  for (int k = 1; k <= 15; ++k) {
+    const auto it = row.failed.find(k);
+    EXPECT_EQ(slots[k], it == row.failed.end() ? "" : it->second) << "item " << k;
+  }
+  EXPECT_EQ(code, row.failed.empty() ? CHECK_PASSED : CHECK_FAILED);
+}
+
+TEST(SectionStructure, Version3Items) {
+  const std::string V = "~Version", W = "~Well";
+  const StructureRow rows[] = {
+      {"primary sets", {V, W, "~Parameter", "~Curve", "~ASCII"}, {}},
+      {"indexed log sets",
+       {V, W, "~Log_Parameter[1]", "~Log_Definition[1]", "~Log_Data[1] | Log_Definition[1]",
+        "~Log_Parameter[2]", "~Log_Definition[2]", "~Log_Data[2] | Log_Definition[2]"},
+       {}},
+      {"a definition section alone is a set", {V, W, "~Curve"}, {}},
+      {"neither ~Version nor ~Well reports only ~Well",
+       {"~Curve", "~ASCII"},
+       {{1, "~Well"}, {3, "1st and 2nd sections are ~Curve then ~ASCII"}}},
+      {"no ~Version",
+       {W, "~Curve", "~ASCII"},
+       {{1, "~Version "}, {3, "1st and 2nd sections are ~Well then ~Curve"}}},
+      {"no titles at all",
+       {},
+       {{1, "~WellMinumum one set of Matching _Data/_Definition sections not found"}}},
+      {"a pair whose suffixes stand at the same place",
+       {V, W, "~Tops_Definition", "~Tops_data | Tops_Definition"},
+       {}},
+      {"a pair whose suffixes stand apart",
+       {V, W, "~Tops_Definition", "~A_data | Tops_Definition"},
+       {{1, "Minumum one set of Matching _Data/_Definition sections not found"},
+        {6, "A_data\r\n"},
+        {9, "Tops_Definition\r\n"}}},
+      {"unknown section",
+       {V, W, "~Curve", "~Other", "~ASCII"},
+       {{2, "Illegal section is ~Other\r\n"}}},
+      {"one-letter names are not enough in 3.0",
+       {V, W, "~C", "~A"},
+       {{1, "Minumum one set of Matching _Data/_Definition sections not found"},
+        {2, "Illegal section is ~C\r\nIllegal section is ~A\r\n"}}},
+      {"a single section",
+       {V},
+       {{1, "~WellMinumum one set of Matching _Data/_Definition sections not found"}}},
+      {"second ~Version with another index",
+       {V, W, "~Curve", "~ASCII", "~Version[2]"},
+       {{4, "Version[2]\r\n"}, {12, "Version\r\n"}, {13, "Version\r\n"}, {14, "Version[2]\r\n"}}},
+      {"two unindexed data sections of one name",
+       {V, W, "~Log_Definition", "~Log_Data | Log_Definition", "~Log_Data | Log_Definition"},
+       {{4, "Log_Data\r\n"}, {13, "Log_Data\r\n"}}},
+      {"indexes with a gap",
+       {V, W, "~Log_Definition", "~Log_Data[1] | Log_Definition", "~Log_Data[3] | Log_Definition"},
+       {{14, "Log_Data\r\n"}}},
+      {"indexes out of order but complete",
+       {V, W, "~Log_Definition", "~Log_Data[2] | Log_Definition", "~Log_Data[1] | Log_Definition"},
+       {}},
+      {"one indexed section must be [1]",
+       {V, W, "~Log_Definition[2]", "~Log_Data[2] | Log_Definition[2]"},
+       {{14, "Log_Definition[2]\r\nLog_Data[2]\r\n"}}},
+      {"data section without association",
+       {V, W, "~Log_Definition", "~Log_Data"},
+       {{5, "Log_Data\r\n"}, {6, "Log_Data\r\n"}, {7, "Log_Data|\r\n"}, {11, "Missing \r\n"}}},
+      {"bare bar on a data title",
+       {V, W, "~Log_Definition", "~Log_Data |"},
+       {{5, "Log_Data\r\n"}, {6, "Log_Data\r\n"}, {7, "Log_Data| \r\n"}, {11, "Missing  \r\n"}}},
+      {"~ASCII associated with something else than ~Curve",
+       {V, W, "~Curve", "~Log_Definition", "~ASCII | Log_Definition"},
+       {{6, "Associated Column definition section must be Curve, not Log_Definition\r\n"},
+        {9, "Log_Definition\r\n"}}},
+      {"association of another set",
+       {V, W, "~Log_Definition", "~Core_Definition", "~Log_Data | Core_Definition",
+        "~Core_Data | Core_Definition"},
+       {{6, "Log_Data\r\n"}}},
+      {"association without the definition suffix",
+       {V, W, "~Log_Definition", "~Log_Data | Log_Def"},
+       {{7, "Log_Data|Log_Def\r\n"}, {11, "Missing Log_Def\r\n"}}},
+      {"associated definition absent",
+       {V, W, "~Log_Definition[1]", "~Log_Data[1] | Log_Definition[2]"},
+       {{8, "Log_Data[1]\r\n"}, {11, "Missing Log_Definition[2]\r\n"}}},
+      {"associations on header, parameter and definition titles",
+       {"~Version | x", "~Well |", "~Parameter | Curve", "~Curve", "~ASCII"},
+       {{10,
+         "~Version section title has a illegal | delimiter AND an illegal association section "
+         "title.\r\n~Well section title has a illegal | delimiter\r\n~Parameter section "
+         "title has a illegal | delimiter AND an illegal association section title.\r\n"}}},
+      {"definition after its data",
+       {V, W, "~Log_Data | Log_Definition", "~Log_Definition"},
+       {{11, "Expected order: Log_Definition/Log_Data\r\n"}}},
+      {"parameter section out of place",
+       {V, W, "~Log_Definition", "~Log_Parameter", "~Log_Data | Log_Definition"},
+       {{11, "Expected order: Log_Parameter/Log_Definition/Log_Data\r\n"}}},
+      {"~Parameter after ~ASCII",
+       {V, W, "~Curve", "~ASCII", "~Parameter"},
+       {{11, "Expected order: Parameter/Curve/ASCII\r\n"}}},
+      {"indexes on fixed sections",
+       {"~Version[1]", "~Well", "~Curve[1]", "~ASCII[1]"},
+       {{1, "Minumum one set of Matching _Data/_Definition sections not found"},
+        {3, "1st and 2nd sections are ~Version[1] then ~Well"},
+        {12, "Version\r\nCurve\r\nASCII\r\n"}}},
+      {"unreadable indexes are illegal names, not duplicates",
+       {V, W, "~Log_Definition", "~Log_Data[x] | Log_Definition", "~Log_Data[y] | Log_Definition"},
+       {{2, "Illegal section is ~Log_Data[x]\r\nIllegal section is ~Log_Data[y]\r\n"}}},
+  };
+  for (const StructureRow& row : rows) {
+    SCOPED_TRACE(row.what);
+    Slots slots;
+    slots[15] = " ";  // what the caller presets beyond the items is left alone
+    const int code = runStructure(3.0f, row.titles, slots);
+    for (int k = 1; k <= 14; ++k) {
+      const auto it = row.failed.find(k);
+      EXPECT_EQ(slots[k], it == row.failed.end() ? "" : it->second) << "item " << k;
+    }
+    EXPECT_EQ(slots[15], " ");
+    EXPECT_EQ(code, row.failed.empty() ? CHECK_PASSED : CHECK_FAILED);
+  }
+}
+
+TEST(SectionStructure, OlderVersionsDecideItemsOneToThree) {
+  const StructureRow rows[] = {
+      {"full names", {"~Version", "~Well", "~Curve", "~Parameter", "~Other", "~ASCII"}, {}},
+      {"one-letter names", {"~V", "~W", "~C", "~A"}, {}},
+      {"missing sections in a fixed order",
+       {"~Version", "~Curve"},
+       {{1, " sections missing are : ~Well ~ASCII "}}},
+      {"titles sharing a first letter",
+       {"~Version", "~Well", "~Curve", "~Comments", "~ASCII"},
+       {{2, "Duplicate section titles : Comments, Curve"}}},
+      {"lower-case title",
+       {"~Version", "~Well", "~curve", "~ASCII"},
+       {{3, "Tilde not followed by upper case letter, A-Z. Character was c on line:\r\n~curve"}}},
+      {"3.0 items stay empty",
+       {"~Version", "~Well", "~Curve", "~ASCII", "~Log_Data", "~Version[2]"},
+       {{2, "Duplicate section titles : Version[2]"}}},
+  };
+  for (const StructureRow& row : rows) {
+    SCOPED_TRACE(row.what);
+    Slots slots;
+    const int code = runStructure(2.0f, row.titles, slots);
+    expectItems(row, slots, code);
+  }
+}
+
+TEST(SectionStructure, UnreadableFileIsAFault) {
+  resetRunState();
+  runState().lasVersion = 3.0f;
+  Slots slots;
+  EXPECT_EQ(checkSectionStructure("/nonexistent/zorvik/file.las", slots), CHECK_FAULT);
+}
+
+TEST(SectionStructure, ManySectionsFinish) {
+  std::vector<std::string> titles{"~Version", "~Well"};
+  for (int i = 1; i <= 300; ++i) {
+    titles.push_back("~Log_Definition[" + std::to_string(i) + "]");
+    titles.push_back("~Log_Data[" + std::to_string(i) + "] | Log_Definition[" + std::to_string(i) +
+                     "]");
+  }
+  Slots slots;
+  EXPECT_EQ(runStructure(3.0f, titles, slots), CHECK_PASSED);
+}
+
+}  // namespace
+}  // namespace zorvik
