@@ -1,27 +1,292 @@
 #include "cert2/index_range.h"
 
+#include <cmath>
+
+#include "cert2/data_lines.h"
+#include "las/line_reader.h"
+#include "las/sections.h"
+#include "las/text.h"
+#include "run/run_state.h"
+#include "run/window_ops.h"
+#include "transform/param_writer.h"
+#include "transform/wrap.h"
+
 namespace zorvik {
 
-int checkIndexRange(const std::string&, const WellRange&, const std::string&, const ParamTable&,
-                    const ParamTable&, Slots& slots) {
-  for (int k = 1; k <= 7; ++k) slots[k].clear();
+namespace {
+
+// How far back from the end of the data the last index is looked for.
+constexpr std::int64_t TAIL_BYTES = 100000;
+
+bool isTitle(std::string_view trimmedLeft) {
+  return !trimmedLeft.empty() && trimmedLeft[0] == '~';
+}
+
+// Where the data section that starts at `start` ends: the start of the next section's title
+// (approximately: the line after it, which the tail search stops at anyway), or past the end.
+std::int64_t dataSectionEnd(std::int64_t start, std::int64_t fileLength) {
+  const auto& index = runState().sectionIndex;
+  for (std::size_t i = 0; i + 1 < index.size(); ++i)
+    if (index[i].start == start) return index[i + 1].start;
+  return fileLength + 1;
+}
+
+// True when the 1-based position `pos` starts a line (the byte before it ends one).
+bool startsLine(LineReader& file, std::int64_t pos) {
+  std::string before;
+  file.readRange(pos - 1, 1, before);
+  return !before.empty() && (before[0] == '\r' || before[0] == '\n');
+}
+
+std::string shownUnit(const std::string& unit) {
+  return unit.empty() ? "<absent>" : unit;
+}
+
+// The STEP tolerance: one unit of the last decimal STEP is written with (1 without decimals).
+double stepTolerance(std::string_view stepText) {
+  std::string_view z = trimChar(trimView(stepText), '0');
+  std::size_t period = z.find('.');
+  if (period == std::string_view::npos || period + 1 == z.size()) return 1;
+  std::size_t decimals = z.size() - period - 1;
+  double tolerance = 1;
+  parseNumber("0." + std::string(decimals - 1, '0') + "1", tolerance);
+  return tolerance;
+}
+
+struct WellValue {
+  bool found = false;
+  double number = 0;
+  std::string unit;
+  std::string text;
+};
+
+WellValue wellValue(const ParamTable& wellTable, std::string_view mnemonic) {
+  WellValue v;
+  for (int i = 1; i <= wellTable.lastEntry(); ++i) {
+    if (!iequals(wellTable.at(FIELD_MNEMONIC, i), mnemonic)) continue;
+    v.found = true;
+    v.text = trim(wellTable.at(FIELD_VALUE, i));
+    v.number = leadingNumber(v.text);
+    v.unit = trim(wellTable.at(FIELD_UNIT, i));
+    break;
+  }
+  return v;
+}
+
+int evaluate(const Slots& slots) {
+  for (int k = 1; k <= 7; ++k)
+    if (!slots[k].empty()) return CHECK_FAILED;
   return CHECK_PASSED;
 }
 
-int readIndexEnds(const std::string&, const std::string&, IndexEnds& ends) {
-  ends = {};
-  return INDEX_NO_DATA;
+// Rewrites STOP in the file; the well section may be titled ~Well, or ~W in a 1.2 file.
+bool repairStop(const std::string& fileName, const std::string& value) {
+  for (const char* section : {"Well", "V", "W"})
+    if (writeParameterValue(fileName, section, "STOP", value)) return true;
+  return false;
 }
 
-int analyseIncrements(const std::string&, int, IncrementResult& result) {
-  result = {};
-  return STEP_TOO_FEW;
-}
+}  // namespace
 
 std::string_view trimChar(std::string_view s, char c) {
   while (!s.empty() && s.front() == c) s.remove_prefix(1);
   while (!s.empty() && s.back() == c) s.remove_suffix(1);
   return s;
+}
+
+int readIndexEnds(const std::string& fileName, const std::string& wrapValue, IndexEnds& ends) {
+  ends = {};
+  LineReader file;
+  if (!file.open(fileName)) return INDEX_FAULT;
+  std::int64_t first = firstDataLinePosition(fileName);
+  if (noDataAt(first, file.length())) return INDEX_NO_DATA;
+  char delimiter = dataDelimiterChar();
+
+  file.seek(first);
+  std::string_view line;
+  while (file.readLine(line) && isBlankOrComment(line)) {
+  }
+  ends.firstText = leadingField(line, delimiter);
+  ends.first = roundTo5(leadingNumber(ends.firstText));
+
+  // Only the tail of the data is read for the last index: files run to hundreds of MB.
+  std::int64_t from = dataSectionEnd(first, file.length()) - TAIL_BYTES;
+  if (from > first) {
+    bool whole = startsLine(file, from);
+    file.seek(from);
+    if (!whole) file.readLine(line);  // a partial line is no index
+  } else {
+    file.seek(first);
+  }
+
+  bool wrapped = !iequals(trimView(wrapValue), "NO");
+  std::string last;
+  while (file.readLine(line)) {
+    std::string_view t = trimView(line);
+    if (isTitle(t)) break;
+    if (t.empty() || t[0] == '#') continue;
+    // In a wrapped record the index stands alone on the record's first line.
+    if (wrapped && t.find(delimiter) != std::string_view::npos) continue;
+    last.assign(wrapped ? t : leadingField(t, delimiter));
+  }
+  ends.lastText = last;
+  ends.last = roundTo5(leadingNumber(last));
+  return INDEX_READ;
+}
+
+int analyseIncrements(const std::string& fileName, int linesPerRecord, IncrementResult& result) {
+  result = {};
+  LineReader file;
+  if (!file.open(fileName)) return STEP_UNREADABLE;
+  std::int64_t first = firstDataLinePosition(fileName);
+  if (noDataAt(first, file.length())) return STEP_UNANALYSABLE;
+  if (linesPerRecord < 1) linesPerRecord = 1;
+  char delimiter = dataDelimiterChar();
+
+  file.seek(first);
+  std::int64_t records = 0;
+  int lineInRecord = 0;
+  double previous = 0;
+  float firstIncrement = 0;
+  std::string_view line;
+  while (file.readLine(line)) {
+    std::string_view t = trimLeftView(line);
+    if (isTitle(t)) break;
+    if (t.empty() || t[0] == '#') continue;
+    bool indexLine = lineInRecord == 0;
+    lineInRecord = (lineInRecord + 1) % linesPerRecord;
+    if (!indexLine) continue;
+
+    std::string_view field = leadingField(t, delimiter);
+    double value = 0;
+    if (!parseNumber(field, value)) return STEP_UNANALYSABLE;
+    value = roundTo5(value);
+    if (++records >= 2) {
+      double increment = value - previous;
+      result.increment = increment;
+      result.index = value;
+      if (records == 2) {
+        firstIncrement = static_cast<float>(increment);
+      } else if (static_cast<float>(increment) != firstIncrement) {
+        result.indexText.assign(field);
+        return STEP_VARIES;
+      }
+    }
+    previous = value;
+    if (records >= 2) result.indexText.assign(field);
+  }
+  return records < 2 ? STEP_UNANALYSABLE : STEP_CONSTANT;
+}
+
+int checkIndexRange(const std::string& fileName, const WellRange& well,
+                    const std::string& wrapValue, const ParamTable& wellTable,
+                    const ParamTable& curveTable, Slots& slots) {
+  RunState& state = runState();
+  const std::string& dataName = state.dataSectionName;
+
+  // Presence: without all four values nothing else can be compared.
+  slots[1].clear();
+  const std::pair<const std::string*, const char*> required[] = {
+      {&well.strt, "STRT value missing"},
+      {&well.stop, "STOP value missing"},
+      {&well.step, "STEP value missing"},
+      {&well.nullValue, "NULL value missing"}};
+  for (const auto& [value, message] : required)
+    if (trimView(*value).empty()) slots[1] += std::string(message) + "\r\n";
+  if (!slots[1].empty()) return CHECK_FAILED;
+
+  WellValue strt = wellValue(wellTable, "STRT");
+  WellValue stop = wellValue(wellTable, "STOP");
+  WellValue step = wellValue(wellTable, "STEP");
+  bool stepZero = step.text.empty() || step.number == 0;
+  double tolerance = stepZero ? 0 : stepTolerance(step.text);
+
+  std::string indexMnemonic = curveTable.lastEntry() >= 1 ? curveTable.at(FIELD_MNEMONIC, 1) : "";
+  std::string indexUnit = curveTable.lastEntry() >= 1 ? trim(curveTable.at(FIELD_UNIT, 1)) : "";
+  slots[7].clear();
+  if (!iequals(stop.unit, strt.unit) || !iequals(step.unit, strt.unit) ||
+      !iequals(indexUnit, strt.unit))
+    slots[7] = " Units don't match: STRT=" + shownUnit(strt.unit) +
+               ", STOP=" + shownUnit(stop.unit) + ", STEP=" + shownUnit(step.unit) + ", " +
+               indexMnemonic + "=" + shownUnit(indexUnit);
+
+  int linesPerRecord = 1;
+  int bufferLength = 0;
+  int channels = 0;
+  analyseWrap(fileName, linesPerRecord, bufferLength, channels, curveTable.lastEntry());
+  IndexEnds ends;
+  if (readIndexEnds(fileName, wrapValue, ends) == INDEX_FAULT) return evaluate(slots);
+
+  slots[2].clear();
+  if (roundTo5(strt.number) != ends.first)
+    slots[2] = "STRT = " + formatShortest(strt.number) +
+               ", First ~ASCII index = " + formatShortest(ends.first);
+
+  slots[3].clear();
+  std::string stopText = trim(well.stop);
+  std::string nullText = trim(well.nullValue);
+  bool stopIsNull = stop.number == leadingNumber(nullText) && iequals(stopText, nullText);
+  if (!stopIsNull) {
+    if (formatFixed(ends.last) != formatFixed(stop.number))
+      slots[3] = "STOP = " + formatShortest(stop.number) +
+                 ", Last ~ASCII index = " + formatShortest(ends.last);
+  } else {
+    // A file written in real time leaves STOP at NULL: take it from the data.
+    if (!repairStop(fileName, formatFixed(ends.last))) {
+      if (state.window != nullptr)
+        state.window->showCritical(
+            "Error Repairing Null STOP Value",
+            "STOP was NULL (real time file?), but there was an error attempting to update the "
+            "STOP value in ~Well section with last index value of ~" +
+                dataName +
+                ". Manually change the STOP parameter value to the correct number and try Zorvik "
+                "again.");
+      return CHECK_FAULT;
+    }
+    stop.number = ends.last;
+    state.nullStopRepaired = true;
+    buildSectionIndex(fileName);  // the header changed length: stored positions moved
+  }
+
+  slots[4].clear();
+  slots[5].clear();
+  slots[6].clear();
+  std::string_view stepDigits = trimChar(step.text, '0');
+  if (contains(stepDigits, '.') && contains(ends.lastText, '.') &&
+      decimalsOf(ends.lastText) < decimalsOf(stepDigits))
+    slots[5] = "Index channel does not carry enough precision for STEP. " +
+               std::string(" Index has ") + toText(decimalsOf(ends.lastText)) +
+               " decimals while STEP has " + toText(decimalsOf(stepDigits)) + " decimals";
+
+  IncrementResult increments;
+  switch (analyseIncrements(fileName, linesPerRecord, increments)) {
+    case STEP_CONSTANT:
+      if (stepZero)
+        slots[4] =
+            "~Well STEP value is 0.0 (implies non-constant step) but the STEP as read from ~" +
+            dataName + " section was constant @ " + formatFixed(increments.increment);
+      else if (formatFixed(step.number) != formatFixed(increments.increment))
+        slots[4] = "~Well STEP value = " + formatFixed(step.number) + ", last read increment @ " +
+                   increments.indexText + " was " + formatFixed(increments.increment);
+      break;
+    case STEP_VARIES:
+      if (stepZero) break;
+      if (std::fabs(step.number - increments.increment) <= tolerance)
+        slots[6] = "Possible rounding error? STEP value = " + step.text +
+                   ", last read increment @ " + increments.indexText + " was " +
+                   formatFixed(increments.increment);
+      else
+        slots[4] = "STEP no longer constant at : " + formatFixed(increments.index) + " (" +
+                   formatFixed(increments.increment) + ")";
+      break;
+    case STEP_UNREADABLE:
+      return evaluate(slots);
+    case STEP_UNANALYSABLE:
+      return CHECK_NOTHING;  // deliberately records nothing for this check
+    default:
+      break;
+  }
+  return evaluate(slots);
 }
 
 }  // namespace zorvik

@@ -21,16 +21,16 @@ struct WellRange {
 };
 
 // Fills slots 1..7 and returns CHECK_PASSED, CHECK_FAILED, CHECK_FAULT (the null STOP repair
-// failed) or CHECK_NOTHING (the data could not be analysed: record nothing). May rewrite the
-// STOP value in the file and then sets runState().nullStopRepaired and rebuilds the section
-// index.
+// failed) or CHECK_NOTHING (the data could not be analysed: record nothing). When STRT, STOP,
+// STEP or NULL is missing only slot 1 is written. May rewrite the STOP value in the file; it then
+// sets runState().nullStopRepaired and rebuilds the section index.
 int checkIndexRange(const std::string& fileName, const WellRange& well,
                     const std::string& wrapValue, const ParamTable& wellTable,
                     const ParamTable& curveTable, Slots& slots);
 
 // --- Pieces of the check, published for their own tests. ---
 
-// First and last index of the data section.
+// First and last index of the data section, each value rounded to five decimals.
 struct IndexEnds {
   double first = 0;
   double last = 0;
@@ -41,19 +41,24 @@ inline constexpr int INDEX_FAULT = 0;
 inline constexpr int INDEX_READ = -1;
 inline constexpr int INDEX_NO_DATA = 2;
 // Reads the first index from the first data line and the last one from at most the final
-// 100000 bytes of the file. INDEX_READ, INDEX_NO_DATA (no data line) or INDEX_FAULT.
+// 100000 bytes of the data. With WRAP other than NO the last index is the last line holding no
+// delimiter (the index stands alone on the first line of a wrapped record). INDEX_READ,
+// INDEX_NO_DATA (no data line) or INDEX_FAULT (the file cannot be read).
 int readIndexEnds(const std::string& fileName, const std::string& wrapValue, IndexEnds& ends);
 
 // Increment analysis of the index channel.
 inline constexpr int STEP_CONSTANT = 1;
 inline constexpr int STEP_VARIES = 2;
-inline constexpr int STEP_UNREADABLE = 3;  // the file could not be read
-inline constexpr int STEP_TOO_FEW = 4;     // fewer than two records: nothing to analyse
+inline constexpr int STEP_UNREADABLE = 3;    // the file could not be read
+inline constexpr int STEP_UNANALYSABLE = 4;  // fewer than two records, or an index not a number
 struct IncrementResult {
-  double increment = 0;   // the constant increment, or the one that broke the pattern
-  std::string indexText;  // index text of the record where it broke
+  double increment = 0;   // the last increment read (the one that broke the pattern, if any)
+  double index = 0;       // index value (rounded to five decimals) where it was read
+  std::string indexText;  // that index as written
 };
-// Walks the records of the data section (`linesPerRecord` physical lines each).
+// Walks the records of the data section (`linesPerRecord` physical lines each, comment and blank
+// lines passed over) up to the end of the file or a title line, comparing each increment of the
+// index, rounded to five decimals, with the first one in single precision.
 int analyseIncrements(const std::string& fileName, int linesPerRecord, IncrementResult& result);
 
 // Removes every leading and trailing `c` ("0.1500" with '0' gives ".15").

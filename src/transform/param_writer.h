@@ -1,6 +1,7 @@
 // Rewrites the value of one header line of a LAS file on disk.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -13,5 +14,29 @@ namespace zorvik {
 // section or the mnemonic is missing.
 bool writeParameterValue(const std::string& fileName, std::string_view sectionName,
                          std::string_view mnemonic, std::string_view newValue);
+
+// --- Pieces shared with the other rewriting routines. ---
+
+// `line` with its value field replaced by `newValue`. The blanks around the value absorb the
+// change of length so that the colon keeps its column where room allows: a value written flush
+// against the colon's blank stays right-aligned, any other stays left-aligned. False when the
+// line is not a well-formed header line (out left empty).
+bool replaceLineValue(std::string_view line, std::string_view newValue, std::string& out);
+
+// Finds the first line with mnemonic `mnemonic` in section `sectionName` of the file by reading
+// its lines (no section index needed). Gives back its 1-based start, its length without line end
+// and its text; false when there is none.
+bool findParameterLine(const std::string& fileName, std::string_view sectionName,
+                       std::string_view mnemonic, std::int64_t& start, std::int64_t& length,
+                       std::string& line);
+
+// Writes `target` as the bytes of `source` with the `length` bytes at 1-based `start` replaced by
+// `replacement`, through a temporary file in the target's folder renamed over `target` at the
+// end. `source` may be `target`. False (target untouched) on any read or write failure.
+bool copyWithReplacement(const std::string& source, const std::string& target, std::int64_t start,
+                         std::int64_t length, std::string_view replacement);
+
+// A name for a temporary file next to `path` that does not exist yet.
+std::string temporaryNameBeside(const std::string& path);
 
 }  // namespace zorvik

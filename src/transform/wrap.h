@@ -21,7 +21,8 @@ int analyseWrap(const std::string& fileName, int& linesPerRecord, int& bufferLen
 // Writes `destination` as `source` with each wrapped record joined onto one line and WRAP set to
 // NO (unwrapped data is left alone). Unwrapping onto the source itself goes through a temporary
 // file renamed over the source at the end. False when the source is missing or writing failed;
-// the source is never left half-written.
+// the source is never left half-written. Rebuilds the run's section index from `source`. In window
+// mode publishes progress and shows a critical box when writing fails.
 bool unwrapFile(const std::string& source, const std::string& destination);
 
 }  // namespace zorvik
