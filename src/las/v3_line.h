@@ -22,6 +22,43 @@ enum V3LineType : int {
 // 10 line-type message of a V3_BAD line.
 using V3LineDiagnostics = std::array<std::string, 11>;
 
+// Slot numbers, for readers of the diagnostics.
+enum V3Slot : int {
+  SLOT_MNEMONIC = 1,
+  SLOT_UNIT = 2,
+  SLOT_VALUE = 3,
+  SLOT_DESCRIPTION = 4,
+  SLOT_BAR = 5,
+  SLOT_BRACE = 6,
+  SLOT_FORMAT = 7,
+  SLOT_ASSOCIATION = 8,
+  SLOT_DATA = 9,
+  SLOT_LINE_TYPE = 10,
+};
+
+// The messages the parser puts in its slots (checks print them as they are).
+inline constexpr const char* V3_MSG_UNKNOWN_LINE = "Unknown line type";
+inline constexpr const char* V3_MSG_UNRECOGNIZABLE = "Unrecognizable line";
+// Reserved for the period/colon order decision; the tests before it already catch a missing
+// colon or period, so the parser never gives these.
+inline constexpr const char* V3_MSG_COLON_MISSING = "Expected PDL. Colon missing?";
+inline constexpr const char* V3_MSG_PERIOD_MISSING = "Expected PDL. Period missing?";
+inline constexpr const char* V3_MSG_NO_DELIMITER =
+    "Expected COL_DATA line, but no Delimiter found. ";
+inline constexpr const char* V3_MSG_UNDEFINED_SECTION = "Line in un-defined tilde (~) section. ";
+inline constexpr const char* V3_MSG_BAR_BEFORE_FORMAT =
+    "| (bar) must occur AFTER format {} characters";
+inline constexpr const char* V3_MSG_BAR_BEFORE_COLON = "| (bar) must occur AFTER last colon";
+inline constexpr const char* V3_MSG_MANY_BRACES = "More than one of either { } format delimiter";
+inline constexpr const char* V3_MSG_EMPTY_FORMAT = "Format delimiters empty";
+inline constexpr const char* V3_MSG_ILLEGAL_FORMAT = "Illegal Format";
+inline constexpr const char* V3_MSG_MISSING_BRACE = "Missing either { or }";
+inline constexpr const char* V3_MSG_BRACE_ORDER = "Wrong order of { and }";
+inline constexpr const char* V3_MSG_BRACE_AFTER_BAR = "{ or } found after | delimiter";
+
+// Types `line` of the section `currentSection` ("" before the first title; a title line seen
+// then sets it). Reads lasVersion, dataDelimiter, dataSectionName and the section index from the
+// run state. Every slot is emptied first; empty slots after the call mean no fault of that kind.
 int parseV3Line(std::string_view line, std::string& currentSection, V3LineDiagnostics& diagnostics);
 
 // Character tests of 3.0 fields (in other versions value and description always pass and the
@@ -30,5 +67,8 @@ bool isLegalUnitText(std::string_view unit);
 bool isLegalValueText(std::string_view value);
 bool isLegalDescriptionText(std::string_view description);
 bool isLegalAssociationText(std::string_view association);
+// The association test of a line: passes without a "|"; otherwise the text after the last "|"
+// must pass `isLegalAssociationText` and separate its names with the data delimiter only.
+bool isLegalAssociationList(std::string_view line);
 
 }  // namespace zorvik

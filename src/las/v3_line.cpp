@@ -1,0 +1,171 @@
+#include "las/v3_line.h"
+
+#include "las/header_line.h"
+#include "las/sections.h"
+#include "las/text.h"
+#include "las/value_format.h"
+#include "run/run_state.h"
+
+namespace zorvik {
+
+namespace {
+
+// 1-based position of the first / last occurrence of a character, 0 when absent.
+std::size_t firstOf(std::string_view s, char c) {
+  std::size_t p = s.find(c);
+  return p == std::string_view::npos ? 0 : p + 1;
+}
+std::size_t lastOf(std::string_view s, char c) {
+  std::size_t p = s.rfind(c);
+  return p == std::string_view::npos ? 0 : p + 1;
+}
+
+bool holdsAny(std::string_view s, std::string_view chars) {
+  return s.find_first_of(chars) != std::string_view::npos;
+}
+
+bool isPdlSection(std::string_view baseName) {
+  return iequals(baseName, "Version") || iequals(baseName, "Well") || iequals(baseName, "Curve") ||
+         iequals(baseName, "Parameter") || icontains(baseName, "_Definition") ||
+         icontains(baseName, "_Parameter");
+}
+
+int parseDataLine(std::string_view t, V3LineDiagnostics& d) {
+  d[SLOT_DATA].clear();
+  if (!contains(t, runState().dataDelimiter)) {
+    d[SLOT_LINE_TYPE] = V3_MSG_NO_DELIMITER;
+    return V3_BAD;
+  }
+  return V3_COLUMN_DATA;
+}
+
+// The brace and format tests of a parameter data line; later findings in the brace slot replace
+// earlier ones, so the slot keeps the last fault found.
+void checkFormatPart(std::string_view line, int role, V3LineDiagnostics& d) {
+  std::size_t c = static_cast<std::size_t>(delimiterColon(line));
+  std::size_t firstBar = firstOf(line, '|');
+  std::size_t lastBar = lastOf(line, '|');
+  if (firstBar != 0) {
+    if (firstBar > c && contains(line, '}') &&
+        (firstBar < firstOf(line, '}') || firstBar < firstOf(line, '{')))
+      d[SLOT_BAR] = V3_MSG_BAR_BEFORE_FORMAT;
+    if (firstBar <= c) d[SLOT_BAR] = V3_MSG_BAR_BEFORE_COLON;
+  }
+
+  // The format part: after the delimiting colon, up to a bar that follows it.
+  std::string_view p = line.substr(c);
+  if (lastBar > c) p = line.substr(c, lastBar - c - 1);
+  std::size_t openFirst = firstOf(p, '{'), openLast = lastOf(p, '{');
+  std::size_t closeFirst = firstOf(p, '}'), closeLast = lastOf(p, '}');
+  bool hasOpen = openFirst != 0, hasClose = closeFirst != 0;
+
+  if (openFirst != openLast || closeFirst != closeLast) d[SLOT_BRACE] = V3_MSG_MANY_BRACES;
+
+  std::string value = fieldValue(line);
+  std::string format = fieldFormat(line);
+  if (hasOpen && hasClose && openLast < closeLast) {
+    if (format.empty()) {
+      d[SLOT_FORMAT] = V3_MSG_EMPTY_FORMAT;
+    } else if (isLegalFormat(format) == 0) {
+      d[SLOT_FORMAT] = V3_MSG_ILLEGAL_FORMAT;
+    }
+    // Header and parameter values are written in their own format; definitions describe the
+    // data's format instead.
+    if ((role == ROLE_HEADER || role == ROLE_PARAMETER) && valueMatchesFormat(value, format) == 1)
+      d[SLOT_BRACE] = "Bad Format: " + value + " doesn't look like this format: {" + format + "}";
+  } else if (valueMatchesFormat(value, "F") == 1 && valueMatchesFormat(value, "S") == 1) {
+    d[SLOT_BRACE] =
+        "Value is not Floating point format, assumed String, but value not string. Value was: " +
+        value + ". Format was: {" + format + "}";
+  }
+  if (hasOpen != hasClose) d[SLOT_BRACE] = V3_MSG_MISSING_BRACE;
+  if (hasOpen && hasClose && openLast > closeLast) d[SLOT_BRACE] = V3_MSG_BRACE_ORDER;
+  if (firstBar != 0 && (lastOf(line, '{') > firstBar || lastOf(line, '}') > firstBar))
+    d[SLOT_BRACE] = V3_MSG_BRACE_AFTER_BAR;
+}
+
+}  // namespace
+
+bool isLegalUnitText(std::string_view unit) {
+  std::string_view t = trimView(unit);
+  return isVersion3() ? !holdsAny(t, "\t:{}|;") : !holdsAny(t, "\t:");
+}
+
+bool isLegalValueText(std::string_view value) {
+  return !isVersion3() || !holdsAny(trimView(value), "{}|;");
+}
+
+bool isLegalDescriptionText(std::string_view description) {
+  return !isVersion3() || !holdsAny(trimView(description), "\t{}|;");
+}
+
+bool isLegalAssociationText(std::string_view association) {
+  return !holdsAny(trimView(association), "{};");
+}
+
+bool isLegalAssociationList(std::string_view line) {
+  std::size_t bar = line.rfind('|');
+  if (bar == std::string_view::npos) return true;
+  std::string_view a = trimView(line.substr(bar + 1));
+  if (!isLegalAssociationText(a)) return false;
+  // Names are separated by the data delimiter alone; any other separator mixes styles.
+  const std::string& delimiter = runState().dataDelimiter;
+  for (char separator : {',', ' ', '\t'})
+    if (delimiter != std::string(1, separator) && contains(a, separator)) return false;
+  return true;
+}
+
+int parseV3Line(std::string_view line, std::string& currentSection, V3LineDiagnostics& d) {
+  for (std::string& slot : d) slot.clear();
+  std::string_view t = trimView(line);
+  if (t.empty()) return V3_BLANK;
+  if (t[0] == '#') return V3_COMMENT;
+
+  if (currentSection.empty()) {
+    if (t[0] == '~') {
+      std::string association;
+      currentSection = parseTitleLine(t, association);
+      return V3_TITLE;
+    }
+    d[SLOT_LINE_TYPE] = std::string(line);
+    return V3_BAD;
+  }
+
+  int index = 0;
+  std::string base = splitArrayIndex(currentSection, index);
+  int role = sectionRoleOf(currentSection);
+  if (!isPdlSection(base)) {
+    const std::string& dataName = runState().dataSectionName;
+    if ((!dataName.empty() && iequals(currentSection, dataName)) ||
+        icontains(currentSection, "_Data"))
+      return parseDataLine(t, d);
+    d[SLOT_LINE_TYPE] = V3_MSG_UNDEFINED_SECTION;
+    return V3_BAD;
+  }
+
+  std::size_t period = firstOf(t, '.');
+  std::size_t colon = firstOf(t, ':');
+  if (period == 0 || colon == 0) {
+    d[SLOT_LINE_TYPE] = V3_MSG_UNKNOWN_LINE;
+    return V3_BAD;
+  }
+  if (period + 1 >= colon) {
+    d[SLOT_LINE_TYPE] = V3_MSG_UNRECOGNIZABLE;
+    return V3_BAD;
+  }
+
+  std::string mnemonic = fieldMnemonic(line);
+  if (!isValidMnemonic(mnemonic)) d[SLOT_MNEMONIC] = mnemonic;
+  std::string unit = fieldUnit(line);
+  if (!isLegalUnitText(unit)) d[SLOT_UNIT] = unit;
+  std::string value = fieldValue(line);
+  if (!isLegalValueText(value)) d[SLOT_VALUE] = value;
+  std::string description = fieldDescription(line);
+  if (!isLegalDescriptionText(description)) d[SLOT_DESCRIPTION] = description;
+
+  checkFormatPart(line, role, d);
+  if (!isLegalAssociationList(line)) d[SLOT_ASSOCIATION] = std::string(line);
+  return V3_PDL;
+}
+
+}  // namespace zorvik
