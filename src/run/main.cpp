@@ -1,7 +1,6 @@
-#include <cstdio>
+#include "run/startup.h"
 
-// Placeholder entry until run control lands.
-int main(int argc, char**) {
-  if (argc <= 1) std::fputs("zorvik: this build has no window; give a LAS file and a log file\n", stderr);
-  return 0;
+// The window, when built, registers itself with setWindowLauncher() before start-up runs.
+int main(int argc, char** argv) {
+  return zorvik::startUp(argc, argv);
 }

@@ -1,0 +1,157 @@
+#include "checks/file_checks.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <string_view>
+
+#include "las/text.h"
+#include "run/file_helpers.h"
+
+namespace zorvik {
+
+namespace {
+
+constexpr std::int64_t kSampleSize = 4096;
+
+// Reads `count` bytes from the 0-based `offset`; false (with `fault` set) when that fails.
+bool readSample(std::FILE* file, std::int64_t offset, std::int64_t count, std::string& out,
+                Fault& fault) {
+  out.assign(static_cast<std::size_t>(count), '\0');
+  if (std::fseek(file, static_cast<long>(offset), SEEK_SET) != 0) {
+    fault = faultFromErrno(errno);
+    return false;
+  }
+  std::size_t got = std::fread(out.data(), 1, out.size(), file);
+  if (got != out.size()) {
+    // The file shrank under us, or the device failed.
+    fault = std::ferror(file) ? faultFromErrno(errno) : makeFault(FAULT_PAST_END);
+    return false;
+  }
+  return true;
+}
+
+// The neighbours of the first `separator` in `sample` must not continue a line end: a CR just
+// before it (CR CR LF) or an LF just after it (CR LF LF, LF LF) is not acceptable. A sample
+// without the separator has nothing acceptable in it.
+bool neighboursAcceptable(std::string_view sample, std::string_view separator) {
+  std::size_t at = sample.find(separator);
+  if (at == std::string_view::npos) return false;
+  bool crBefore = at > 0 && sample[at - 1] == '\r';
+  std::size_t next = at + separator.size();
+  bool lfAfter = next < sample.size() && sample[next] == '\n';
+  return !crBefore && !lfAfter;
+}
+
+bool isFileFault(int number) {
+  switch (number) {
+    case 53:
+    case 54:
+    case 55:
+    case 57:
+    case 68:
+    case 70:
+    case 71:
+    case 75:
+    case 76:
+      return true;
+    default:
+      return false;
+  }
+}
+
+std::string accessFailure(const Fault& fault) {
+  if (fault.number == 0) return "Unexpected unknown error";
+  std::string words =
+      isFileFault(fault.number) ? "File Accessibility Error : " : "Unexpected Error : ";
+  return words + fault.description + " " + toText(fault.number);
+}
+
+std::int64_t lengthOf(const std::string& fileName) {
+  struct stat info {};
+  if (::stat(fileName.c_str(), &info) != 0) return -1;
+  return static_cast<std::int64_t>(info.st_size);
+}
+
+}  // namespace
+
+int terminationTest(const std::string& fileName, std::string& termination, std::string& ascii,
+                    Fault& fault) {
+  fault = Fault{};
+  std::FILE* file = std::fopen(fileName.c_str(), "rb");
+  if (file == nullptr) {
+    fault = faultFromErrno(errno);
+    return 0;
+  }
+  std::int64_t length = lengthOf(fileName);
+  std::string head, tail;
+  bool read = length >= 0 && readSample(file, 0, std::min(length, kSampleSize), head, fault);
+  // The tail leaves out the very last byte, so a file's final CR LF is judged by its CR alone.
+  // A file of exactly 4096 bytes has its tail read from the first byte.
+  if (read && length >= kSampleSize) {
+    std::int64_t from = length == kSampleSize ? 0 : length - kSampleSize - 1;
+    read = readSample(file, from, kSampleSize, tail, fault);
+  } else {
+    tail = head;
+  }
+  std::fclose(file);
+  if (!read) {
+    if (fault.number == 0) fault = makeFault(FAULT_DEVICE_IO);
+    return 0;
+  }
+
+  if (head.find('\0') != std::string::npos) {
+    ascii = " ";
+    return 1;
+  }
+  if (head.find("\r\n") != std::string::npos) {
+    // Only the head need hold a CR LF: a tail inside one long last line has no line end to judge.
+    bool tailOk = tail.find("\r\n") == std::string::npos || neighboursAcceptable(tail, "\r\n");
+    if (neighboursAcceptable(head, "\r\n") && tailOk) return -1;
+  }
+  if (neighboursAcceptable(head, "\n")) {
+    termination = "Unix Line Feed (ASCII 10) terminated ";
+    return 1;
+  }
+  return 0;
+}
+
+int fileLevelChecks(const std::string& fileName, Slots& results) {
+  results = Slots{};
+  std::string& exists = results[FILE_EXISTS];
+  std::string& size = results[FILE_SIZE];
+  std::string& access = results[FILE_ACCESS];
+
+  if (fileExists(fileName)) {
+    // Every regular file carries the archive attribute here, so the proof-of-writing open that
+    // attribute-less files would get is never needed.
+    if (lengthOf(fileName) < 1) size = "File exists but has zero bytes";
+  } else if (fileAttributes(fileName) > 0) {
+    access = "File exists, but has Hidden Attribute";
+  } else {
+    exists = "File does not exist or is not accessible";
+  }
+  if (!exists.empty() || !size.empty() || !access.empty()) return RUN_STOPPED;
+
+  Fault fault;
+  int outcome = terminationTest(fileName, results[FILE_TERMINATION], results[FILE_ASCII], fault);
+  if (outcome == 0) {
+    access = accessFailure(fault);
+    return RUN_STOPPED;
+  }
+
+  std::string& extension = results[FILE_EXTENSION];
+  if (fileName.size() >= 5) {
+    if (!iequals(right(fileName, 4), ".las")) extension = "File extension is not .LAS ";
+  } else {
+    extension = "File name is illegal and/or extension is not .LAS";
+  }
+
+  for (int row = FILE_EXISTS; row <= FILE_EXTENSION; ++row)
+    if (!results[row].empty()) return RUN_STOPPED;
+  return RUN_COMPLETED;
+}
+
+}  // namespace zorvik

@@ -1,0 +1,36 @@
+// Group 1 of both catalogues: is the named file there, non-empty, readable, CR LF terminated,
+// free of NUL bytes and named ".las"? Decided from the file system and two 4096-byte samples,
+// before anything parses the file.
+//
+// Nothing here throws: faults met while looking at the file become the access result.
+#pragma once
+
+#include <string>
+
+#include "checks/check_table.h"
+#include "run/fault.h"
+
+namespace zorvik {
+
+// Rows of group 1 in the slots the file-level checks fill.
+enum FileCheckRow : int {
+  FILE_EXISTS = 1,
+  FILE_SIZE = 2,
+  FILE_ACCESS = 3,
+  FILE_TERMINATION = 4,
+  FILE_ASCII = 5,
+  FILE_EXTENSION = 6,
+};
+
+// Fills slots 1..6 (see FileCheckRow; the others are emptied) and answers RUN_COMPLETED when all
+// six are empty, else RUN_STOPPED. Existence, size or access failing leaves rows 4..6 empty.
+int fileLevelChecks(const std::string& fileName, Slots& results);
+
+// Judges the line ends and the NUL-free head of an existing, non-empty file. Answers 1 with
+// `ascii` = " " for a NUL in the first 4096 bytes, 1 with `termination` set for LF line ends,
+// -1 for CR LF line ends, 0 when undecided or when the file could not be read (then `fault`
+// holds the fault, number 0 when there was none).
+int terminationTest(const std::string& fileName, std::string& termination, std::string& ascii,
+                    Fault& fault);
+
+}  // namespace zorvik

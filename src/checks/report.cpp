@@ -1,0 +1,100 @@
+#include "checks/report.h"
+
+#include <cstdio>
+
+#include "checks/catalogue.h"
+#include "las/text.h"
+#include "run/clock.h"
+#include "run/file_helpers.h"
+#include "run/run_state.h"
+
+namespace zorvik {
+
+namespace {
+
+constexpr const char* kEol = "\r\n";
+
+bool isKnownVersion(float version) {
+  return version == 1.2f || version == 2.0f || version == 3.0f;
+}
+
+std::string twoDigits(int number) {
+  std::string text = toText(number);
+  return text.size() < 2 ? "0" + text : text;
+}
+
+// Rows are lettered a..o.
+char rowLetter(int row) {
+  return static_cast<char>(row + 96);
+}
+
+// Appends the rows of one group; true when one of its listed checks failed.
+bool appendGroup(const CheckTable& table, int group, std::string& out) {
+  bool failed = false;
+  out += twoDigits(group) + ": " + table.at(0, COL_RESULT, group) + kEol;
+  for (int row = 1; row <= table.lastRow(); ++row) {
+    const std::string& title = table.at(row, COL_TITLE, group);
+    if (title.empty()) continue;
+    const std::string& result = table.at(row, COL_RESULT, group);
+    std::string label = std::string(1, rowLetter(row)) + ". " + title;
+    if (result.empty()) {
+      out += "        " + label + kEol;
+    } else {
+      out += "Failed: " + label + kEol;
+      out += "Errors: " + replaceAll(result, "\r\n", "\r\nErrors: ") + kEol;
+      failed = true;
+    }
+  }
+  return failed;
+}
+
+}  // namespace
+
+const CheckTable& reportTable() {
+  return isVersion3() ? runState().table3 : runState().table2;
+}
+
+std::string verdictLine(const CheckTable& table) {
+  float version = runState().lasVersion;
+  if (!anyFailure(table))
+    return "Result: LAS file PASSED Ver " + formatShortest(version) + " Certification";
+  if (isKnownVersion(version))
+    return "Result: LAS file FAILS Ver " + formatShortest(version) + " Certification";
+  return "Result: LAS file FAILS Certification";
+}
+
+std::string buildReport(const CheckTable& table) {
+  return buildReport(table, reportDate(localNow()));
+}
+
+std::string buildReport(const CheckTable& table, const std::string& dateText) {
+  std::string out = "LAS Certification Result for: " + runState().lasFile + kEol;
+  out += "Zorvik Ver: " + toText(ZORVIK_VERSION_MAJOR) + "." + toText(ZORVIK_VERSION_MINOR) + "." +
+         toText(ZORVIK_VERSION_PATCH) + " Date: " + dateText + kEol;
+  out += kEol;
+  out += verdictLine(table) + kEol;
+  out += kEol;
+  out += kEol;
+  // Listing stops with the first group holding a failed check: later groups were not reached.
+  for (int group = 1; group <= table.lastGroup(); ++group) {
+    if (table.at(0, COL_RESULT, group).empty()) continue;
+    if (appendGroup(table, group, out)) break;
+  }
+  return out;
+}
+
+int writeLogFile(const std::string& logFile, const std::string& firstNote,
+                 const std::string& secondNote) {
+  if (fileExists(logFile)) std::remove(logFile.c_str());
+  std::FILE* file = std::fopen(logFile.c_str(), "wb");
+  if (file == nullptr) return RUN_FAULT;
+  std::string text;
+  if (!secondNote.empty()) text += "Note: " + secondNote + kEol + kEol;
+  if (!firstNote.empty()) text += firstNote + kEol;
+  text += buildReport(reportTable()) + kEol;
+  bool ok = std::fwrite(text.data(), 1, text.size(), file) == text.size();
+  ok = (std::fclose(file) == 0) && ok;
+  return ok ? RUN_COMPLETED : RUN_FAULT;
+}
+
+}  // namespace zorvik

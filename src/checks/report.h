@@ -1,0 +1,33 @@
+// The certification report of a finished run and the log file that carries it.
+//
+// The report is plain text, every line ended by CR LF: the file name, the program's version and
+// the date, the verdict, then the groups in order up to and including the first group with a
+// failed check. The batch log file, the window's log file, print and copy all use this one text.
+#pragma once
+
+#include <string>
+
+#include "checks/check_table.h"
+
+namespace zorvik {
+
+// The table the report of the current run reads: the 3.0 table when the run state's version is
+// exactly 3.0, otherwise the 1.2/2.0 table.
+const CheckTable& reportTable();
+
+// The "Result: ..." verdict line of `table` for the run state's version (without CR LF).
+std::string verdictLine(const CheckTable& table);
+
+// The report of `table` for the run state's LAS file and version, dated now. Cannot fail.
+std::string buildReport(const CheckTable& table);
+// The same with a given date text in place of the current date and time.
+std::string buildReport(const CheckTable& table, const std::string& dateText);
+
+// Replaces `logFile` with the report of the current run: "Note: " + `secondNote` and an empty
+// line when that note is not empty, `firstNote` as a line when not empty, the report and one more
+// line end. Returns RUN_COMPLETED, or RUN_FAULT when the file could not be written (whatever was
+// written stays).
+int writeLogFile(const std::string& logFile, const std::string& firstNote,
+                 const std::string& secondNote);
+
+}  // namespace zorvik

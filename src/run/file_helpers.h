@@ -1,0 +1,37 @@
+// File-name helpers shared by start-up, the run drivers and the file-level checks.
+//
+// Attributes follow the classic desktop model mapped onto this platform: a name whose last
+// component begins with "." is hidden; a file nobody may write is read-only; every regular file
+// carries the archive attribute; directories carry the directory attribute and other non-regular
+// files (pipes, devices, sockets) the system attribute. None of these functions throws.
+#pragma once
+
+#include <string>
+
+namespace zorvik {
+
+inline constexpr int ATTR_NORMAL = 0;
+inline constexpr int ATTR_READONLY = 1;
+inline constexpr int ATTR_HIDDEN = 2;
+inline constexpr int ATTR_SYSTEM = 4;
+inline constexpr int ATTR_DIRECTORY = 16;
+inline constexpr int ATTR_ARCHIVE = 32;
+
+// True when `name` is a visible regular file (hidden, system and directory entries count as
+// absent); false for an empty name.
+bool fileExists(const std::string& name);
+
+// The attribute bits of `name`, or -1 when nothing of that name can be looked at.
+int fileAttributes(const std::string& name);
+
+// Creates (or truncates) `name`, writes one test line, and deletes it again when it then exists
+// as a normal file. True only in that last case; any failure answers false. Careful: an existing
+// file of that name is emptied and removed.
+bool logFileWritable(const std::string& name);
+
+// `name` cut at its first "." (of the whole name, folders included) followed by "." and
+// `extension`; without a point the extension is appended. An empty extension appends nothing
+// and drops the point. A blank name comes back unchanged.
+std::string changeExtension(const std::string& name, const std::string& extension);
+
+}  // namespace zorvik

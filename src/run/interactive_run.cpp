@@ -1,0 +1,118 @@
+#include "run/interactive_run.h"
+
+#include <cstdio>
+
+#include "cert2/certify2.h"
+#include "cert3/certify3.h"
+#include "checks/catalogue.h"
+#include "checks/file_checks.h"
+#include "checks/report.h"
+#include "run/file_helpers.h"
+#include "run/run_state.h"
+#include "run/settings.h"
+#include "run/version_sniff.h"
+#include "run/window_ops.h"
+
+namespace zorvik {
+
+namespace {
+
+// The command log copies the status line, so the run state keeps it as well as the window.
+void setStatus(const std::string& text) {
+  runState().statusLine = text;
+  if (runState().window != nullptr) runState().window->setStatusLine(text);
+}
+
+bool windowShown() {
+  return runState().window != nullptr && !runState().batchMode;
+}
+
+void prepareTabs(float version) {
+  if (runState().window != nullptr) runState().window->prepareResultTabs(version);
+}
+
+void enableTabs(bool enabled) {
+  if (runState().window != nullptr) runState().window->enableResultTabs(enabled);
+}
+
+// Runs the version's driver; an unknown version is certified by the 1.2/2.0 driver here, unlike
+// in batch mode, so the user still sees what can be checked.
+int dispatch(RunState& state) {
+  float version = sniffVersion(state.lasFile);
+  state.lasVersion = version;
+  if (version == 0.0f) {
+    state.lasVersion = 2.0f;
+    if (windowShown() &&
+        !state.window->askOkCancel("LAS Version Not Found!",
+                                   "LAS Version was not determined. Proceeding as if Ver 2.0. "))
+      return RUN_FAULT;
+    prepareTabs(state.lasVersion);
+    return aaCertify2(state.lasFile);
+  }
+  prepareTabs(version);
+  return version == 3.0f ? aaCertify3(state.lasFile) : aaCertify2(state.lasFile);
+}
+
+void certify() {
+  RunState& state = runState();
+  if (state.window != nullptr) state.window->setTitle("Zorvik (" + state.lasFile + ")");
+  setStatus("Checking in Progress...");
+
+  state.table3.clear();
+  state.table2.clear();
+  layOutCatalogue();
+
+  Slots group1;
+  int fileStatus = fileLevelChecks(state.lasFile, group1);
+  for (int row = 1; row <= state.table2.lastRow(); ++row) state.table2.at(row, COL_MARK, 1) = " ";
+
+  int status = RUN_COMPLETED;
+  if (fileStatus == RUN_STOPPED) {
+    // Only group 1 is filled; a usable file's tables belong to the version driver.
+    storeGroupResults(state.table3, 1, group1);
+    storeGroupResults(state.table2, 1, group1);
+  } else {
+    status = dispatch(state);
+  }
+
+  if (status == RUN_COMPLETED) {
+    enableTabs(true);
+    if (state.window != nullptr) state.window->fillResultGrid(reportTable());
+    if (state.writeLog) {
+      state.logFile = changeExtension(state.lasFile, "log");
+      writeLogFile(state.logFile, "", "");
+    } else {
+      state.logFile = "";
+    }
+  } else if (status == RUN_STOPPED) {
+    enableTabs(false);
+  } else if (windowShown()) {
+    state.window->showCritical("Error!",
+                               "Error occured while processing the LAS file. No certification "
+                               "possible");
+  }
+}
+
+}  // namespace
+
+void runInteractive() {
+  try {
+    certify();
+  } catch (...) {
+    // A fault inside the run ends it like a processing error of a driver.
+    if (windowShown())
+      runState().window->showCritical(
+          "Error!", "Error occured while processing the LAS file. No certification possible");
+  }
+  setStatus("Ready");
+}
+
+void doCertifyWork() {
+  RunState& state = runState();
+  state.logFile = changeExtension(state.lasFile, "log");
+  if (fileExists(state.logFile)) std::remove(state.logFile.c_str());
+  saveLasFileSetting();
+  runInteractive();
+}
+
+}  // namespace zorvik

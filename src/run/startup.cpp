@@ -1,0 +1,187 @@
+#include "run/startup.h"
+
+#include <cstdio>
+#include <string>
+
+#include "las/text.h"
+#include "run/batch_mode.h"
+#include "run/command_log.h"
+#include "run/fault.h"
+#include "run/file_helpers.h"
+#include "run/run_state.h"
+#include "run/settings.h"
+
+namespace zorvik {
+
+namespace {
+
+WindowLauncher& launcher() {
+  static WindowLauncher registered = nullptr;
+  return registered;
+}
+
+// The process command line as one text: the words after the program's name joined by blanks.
+std::string commandLineOf(int argc, char** argv) {
+  std::string line;
+  for (int i = 1; i < argc; ++i) {
+    if (i > 1) line += ' ';
+    line += argv[i];
+  }
+  return line;
+}
+
+std::string withoutQuotes(const std::string& word) {
+  return trim(replaceAll(word, "\"", ""));
+}
+
+// Where the steps of start-up go next.
+enum class Next { Step, WindowMode, Handler };
+
+int showWindow(int argc, char** argv) {
+  if (launcher() != nullptr) return launcher()(argc, argv);
+  std::fputs("zorvik: this build has no window; usage: zorvik FILE.las FILE.log [/W]\n", stderr);
+  return 0;
+}
+
+}  // namespace
+
+void setWindowLauncher(WindowLauncher registered) {
+  launcher() = registered;
+}
+
+int startUp(int argc, char** argv) {
+  RunState& state = runState();
+  const std::string commandLine = commandLineOf(argc, argv);
+  std::string trimmed;
+
+  // The statements of start-up, numbered so that a fault can resume after the one that failed.
+  auto step = [&](int number) -> Next {
+    switch (number) {
+      case 2:
+        resetRunState();  // also the single empty command-line word and the empty tables
+        return Next::Step;
+      case 3:
+        state.helpFile = programFolder() + "/zorvik.hlp";
+        return Next::Step;
+      case 4:
+        state.lasVersion = NO_VERSION;
+        state.lasFile.clear();
+        state.spareText.clear();
+        return Next::Step;
+      case 5:
+        readSettings();
+        return Next::Step;
+      case 6:
+        if (iequals(commandLine, "")) {
+          state.batchMode = false;
+          return Next::WindowMode;
+        }
+        return Next::Step;
+      case 7:
+        state.batchMode = true;
+        return Next::Step;
+      case 8:
+        trimmed = trim(commandLine);
+        return Next::Step;
+      case 9:
+        writeCommandLog("Command line :" + commandLine);
+        return Next::Step;
+      case 10:
+        state.commandWords.clear();
+        for (const std::string& word : split(trimmed, " "))
+          state.commandWords.push_back(trim(word));
+        return Next::Step;
+      case 11:
+        state.commandWords.at(0) = withoutQuotes(state.commandWords.at(0));
+        state.commandWords.at(1) = withoutQuotes(state.commandWords.at(1));
+        return Next::Step;
+      case 12: {  // with 13, its "otherwise" branch
+        const std::string& word0 = state.commandWords.at(0);
+        if (!fileExists(word0)) {
+          writeCommandLog("Error:LAS file name, " + word0 +
+                          ", is not a valid file name or file is not accessible.");
+          return Next::Handler;
+        }
+        // The extension test looks at the name remembered from the last window session, not at
+        // word 0: only a remembered ".las" name lets batch runs through.
+        const std::string& remembered = state.lasFile;
+        std::size_t at = ifind(remembered, ".las");
+        bool lasName = at != 0 && remembered.size() - at == 3;
+        state.lasFile = lasName ? word0 : "";
+        if (state.lasFile.empty()) {
+          writeCommandLog("Error:Supplied LAS file name, " + word0 +
+                          ", must have a .las extension.");
+          return Next::Handler;
+        }
+        return Next::Step;
+      }
+      case 14:
+        state.doWrap = icontains(trimmed, " /W");
+        return Next::Step;
+      case 15:
+        state.logFile = state.commandWords.at(1);
+        return Next::Step;
+      case 16:
+        // The writability test empties and deletes its file; never let it touch the LAS file
+        // itself (the same-name test below refuses that run anyway).
+        if (!iequals(state.logFile, state.lasFile) && !logFileWritable(state.logFile)) {
+          writeCommandLog("Error:Log file name, " + state.logFile +
+                          " is not a valid file name or could not be opened where indicated. Log "
+                          "file was written as LAS filename with .log extension to LAS file path.");
+          state.logFile = changeExtension(state.lasFile, "log");
+        }
+        return Next::Step;
+      case 17:
+        if (iequals(state.lasFile, state.logFile)) {
+          writeCommandLog(
+              "Error: LAS file name and Log file are the same. Log file must be different. No "
+              "processing is possible");
+          return Next::Handler;
+        }
+        return Next::Step;
+      default:
+        return Next::Step;
+    }
+  };
+
+  // The failure handler: one entry naming the fault (none after an explicit jump, which gives
+  // the "Error #0" entry); "Path not found" resumes after the failing statement, anything else
+  // ends start-up.
+  auto handle = [&](const Fault& fault) -> bool {
+    writeCommandLog(handlerMessage("main", fault));
+    if (fault.number == FAULT_PATH_NOT_FOUND) {
+      state.lasFile.clear();
+      return true;
+    }
+    return false;
+  };
+
+  for (int number = 2; number <= 17; ++number) {
+    Next next = Next::Step;
+    try {
+      next = step(number);
+    } catch (...) {
+      if (handle(currentFault())) continue;
+      return 0;
+    }
+    if (next == Next::Handler) {
+      handle(Fault{});
+      return 0;
+    }
+    if (next == Next::WindowMode) break;
+  }
+
+  try {
+    if (state.batchMode) {
+      doBatchMode();
+      return 0;
+    }
+    showWindow(argc, argv);
+    return 0;
+  } catch (...) {
+    handle(currentFault());
+    return 0;
+  }
+}
+
+}  // namespace zorvik
