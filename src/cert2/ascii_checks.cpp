@@ -1,5 +1,7 @@
 #include "cert2/ascii_checks.h"
 
+#include <cstring>
+
 #include "cert2/data_lines.h"
 #include "las/line_reader.h"
 #include "las/text.h"
@@ -19,20 +21,31 @@ int evaluate(const Slots& slots) {
   return CHECK_PASSED;
 }
 
-// Values of a line split at runs of blanks, and whether it holds a "~"; one pass over the bytes.
-int countValues(std::string_view line, bool& tilde) {
-  int values = 0;
-  bool inValue = false;
-  for (char c : line) {
-    if (c == ' ') {
-      inValue = false;
-      continue;
-    }
-    if (c == '~') tilde = true;
-    if (!inValue) ++values;
-    inValue = true;
-  }
+// Values of a line split at runs of blanks: the blank-to-value steps. Written without branches so
+// that the compiler can vectorise it; this loop sees every byte of the data.
+int countValues(std::string_view line) {
+  const char* p = line.data();
+  std::size_t n = line.size();
+  if (n == 0) return 0;
+  int values = p[0] != ' ';
+  for (std::size_t i = 1; i < n; ++i) values += (p[i] != ' ') & (p[i - 1] == ' ');
   return values;
+}
+
+bool hasTilde(std::string_view line) {
+  return std::memchr(line.data(), '~', line.size()) != nullptr;
+}
+
+// The record's lines joined by single blanks, read again from `start` for a finding.
+std::string recordText(LineReader& file, std::int64_t start, int lines) {
+  std::string record;
+  file.seek(start);
+  std::string_view line;
+  for (int i = 0; i < lines && file.readLine(line); ++i) {
+    if (i > 0) record += ' ';
+    record.append(line);
+  }
+  return std::string(trimView(record));
 }
 
 // Reads the records of one data section from `start`; the first bad record fills slot 2 or 4.
@@ -48,30 +61,27 @@ void judgeRecords(const std::string& fileName, std::int64_t start, bool wrapped,
   const char* limit = wrapped ? " long. 80 is max." : " long. 256 is max.";
   int perRecord = wrapped ? std::max(1, linesPerRecord) : 1;
 
-  std::string record;  // the record's lines joined by single blanks, kept for the finding only
   std::string_view line;
   for (;;) {
     int values = 0;
     int lines = 0;
     bool tilde = false;
-    record.clear();
+    std::int64_t recordStart = 0;
     while (lines < perRecord && file.readLine(line)) {
       if (judgeLength && file.lineLength() > maxLength) {
         slots[4] = tooLong + toText(file.lineLength()) + limit + "\r\n" + std::string(line);
         return;
       }
-      values += countValues(line, tilde);
-      if (perRecord > 1) {
-        if (lines > 0) record += ' ';
-        record.append(line);
-      }
+      if (lines == 0) recordStart = file.lineStart();
+      values += countValues(line);
+      tilde = tilde || hasTilde(line);
       ++lines;
     }
     if (lines == 0 || tilde) return;  // end of the file, or the next section's title
     if (values != expected) {
-      std::string_view shown = trimView(perRecord > 1 ? std::string_view(record) : line);
       slots[2] = "Space delimited column count differs from ~Curve channel count. Expected: " +
-                 toText(expected) + ". Found: " + toText(values) + "\r\n" + std::string(shown);
+                 toText(expected) + ". Found: " + toText(values) + "\r\n" +
+                 recordText(file, recordStart, lines);
       return;
     }
   }

@@ -46,6 +46,41 @@ double roundTo5(double value) {
   return scaled == 0 ? 0.0 : scaled / 100000.0;
 }
 
+bool parseRoundedNumber(std::string_view field, double& value) {
+  field = trimView(field);
+  std::size_t i = 0;
+  std::size_t n = field.size();
+  bool negative = false;
+  if (i < n && (field[i] == '+' || field[i] == '-')) negative = field[i++] == '-';
+  std::uint64_t mantissa = 0;
+  int digits = 0;
+  int decimals = 0;
+  bool point = false;
+  for (; i < n; ++i) {
+    char c = field[i];
+    if (c >= '0' && c <= '9') {
+      mantissa = mantissa * 10 + static_cast<std::uint64_t>(c - '0');
+      ++digits;
+      decimals += point;
+    } else if (c == '.' && !point) {
+      point = true;
+    } else {
+      break;
+    }
+  }
+  // In units of 0.00001 the number is an integer below 2^53: exact, and the same double the
+  // "0.00000" text would read back as.
+  if (i == n && digits > 0 && decimals <= 5 && digits + 5 - decimals <= 15) {
+    static constexpr double kUnits[] = {100000, 10000, 1000, 100, 10, 1};
+    double units = static_cast<double>(mantissa) * kUnits[decimals];
+    value = units == 0 ? 0.0 : (negative ? -units : units) / 100000.0;
+    return true;
+  }
+  if (!parseNumber(field, value)) return false;
+  value = roundTo5(value);
+  return true;
+}
+
 int decimalsOf(std::string_view text) {
   std::size_t p = text.find('.');
   return p == std::string_view::npos ? 0 : static_cast<int>(text.size() - p - 1);

@@ -30,6 +30,11 @@ std::string_view leadingField(std::string_view line, char delimiter);
 // A number rounded as "0.00000" text read back gives it: half away from zero, no negative zero.
 double roundTo5(double value);
 
+// The number a whole field holds (blanks around it allowed), rounded to five decimals; false when
+// the field is not one number. Plain decimals are read with integer arithmetic: this runs once
+// per data record.
+bool parseRoundedNumber(std::string_view field, double& value);
+
 // Number of digits after the first "." of `text` (0 without a period).
 int decimalsOf(std::string_view text);
 

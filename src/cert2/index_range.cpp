@@ -159,8 +159,7 @@ int analyseIncrements(const std::string& fileName, int linesPerRecord, Increment
 
     std::string_view field = leadingField(t, delimiter);
     double value = 0;
-    if (!parseNumber(field, value)) return STEP_UNANALYSABLE;
-    value = roundTo5(value);
+    if (!parseRoundedNumber(field, value)) return STEP_UNANALYSABLE;
     if (++records >= 2) {
       double increment = value - previous;
       result.increment = increment;

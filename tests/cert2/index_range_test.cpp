@@ -4,9 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <map>
 
+#include "cert2/data_lines.h"
 #include "las/sections.h"
+#include "las/text.h"
 #include "run/run_state.h"
 #include "support/batch_run.h"
 #include "support/scratch_files.h"
@@ -162,6 +165,39 @@ TEST(AnalyseIncrements, ConstantOrWhereItBreaks) {
   }
   IncrementResult result;
   EXPECT_EQ(analyseIncrements("/nonexistent/file.las", 1, result), STEP_UNREADABLE);
+}
+
+TEST(ParseRoundedNumber, ReadsAsTheFiveDecimalTextWouldReadBack) {
+  const char* rows[] = {"1000.0488",
+                        "-1000.0488",
+                        "+12",
+                        "0",
+                        "-0.000001",
+                        "1000.000005",
+                        "1000.123456789",
+                        "0.1524",
+                        ".5",
+                        "5.",
+                        "123456789012.5",
+                        "1.5e3",
+                        " 42.25 ",
+                        "99999999999.99999",
+                        "-999.25"};
+  for (const char* text : rows) {
+    SCOPED_TRACE(text);
+    double direct = 0;
+    ASSERT_TRUE(parseNumber(text, direct));
+    double expected = 0;
+    ASSERT_TRUE(parseNumber(formatFixed(direct, 5), expected));
+    double value = 1;
+    ASSERT_TRUE(parseRoundedNumber(text, value));
+    EXPECT_EQ(value, expected);
+    EXPECT_FALSE(std::signbit(value) && value == 0);
+  }
+  for (const char* text : {"", ".", "1.2.3", "10:00", "1,5", "- 1"}) {
+    double value = 0;
+    EXPECT_FALSE(parseRoundedNumber(text, value)) << text;
+  }
 }
 
 TEST(TrimChar, RemovesTheCharacterAtBothEnds) {
