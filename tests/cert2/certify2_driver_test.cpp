@@ -1,6 +1,7 @@
 // The 1.2/2.0 driver's order, recording, stop rule, cancelling and error path, with scripted
 // check procedures and a fake window.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -117,7 +118,10 @@ struct DriverCase {
 class Certify2Driver : public ::testing::Test {
  protected:
   void SetUp() override {
-    folder_ = std::filesystem::temp_directory_path() / "zorvik_certify2_driver";
+    // One folder per test and process: ctest runs the tests of this suite side by side.
+    const char* test = ::testing::UnitTest::GetInstance()->current_test_info()->name();
+    folder_ = std::filesystem::temp_directory_path() /
+              ("zorvik_certify2_" + std::string(test) + "_" + std::to_string(getpid()));
     std::filesystem::remove_all(folder_);
     std::filesystem::create_directories(folder_);
     setProgramFolder(folder_.string());
