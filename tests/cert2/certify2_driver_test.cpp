@@ -260,16 +260,6 @@ TEST_F(Certify2Driver, RunsRecordsAndStopsByTheRules) {
   }
 }
 
-TEST_F(Certify2Driver, CountryNoteGoesIntoRowTwoOfGroupFive) {
-  script = Script{};
-  script.result[5] = CHECK_FAILED;
-  script.slots[5] = withRow(2, "note");
-  runState().lasVersion = 2.0f;
-  EXPECT_EQ(aaCertify2With(writeLas(true), scriptedChecks()), RUN_COMPLETED);
-  EXPECT_EQ(runState().table2.at(2, COL_RESULT, 5), "note");
-  EXPECT_EQ(runState().table2.at(1, COL_RESULT, 5), "");
-}
-
 TEST_F(Certify2Driver, WindowShowsProgressAndBusyPointer) {
   script = Script{};
   FakeWindow window;
