@@ -77,13 +77,13 @@ std::string parseTitleLine(std::string_view line, std::string& association) {
   return std::string(cutAtSpace(t));
 }
 
-std::string splitArrayIndex(std::string_view name, int& index) {
+std::string_view splitArrayIndexView(std::string_view name, int& index) {
   index = -1;
   std::string_view t = trimView(name);
   std::size_t open = t.find('[');
   std::size_t close = t.find(']');
   const auto npos = std::string_view::npos;
-  if (open == npos && close == npos) return std::string(cutAtSpace(t));
+  if (open == npos && close == npos) return cutAtSpace(t);
   if (open == npos || close == npos || close < open) return {};
   if (t.back() != ']' || t.rfind('[') != open || t.rfind(']') != close) return {};
   std::string_view digits = t.substr(open + 1, close - open - 1);
@@ -93,7 +93,11 @@ std::string splitArrayIndex(std::string_view name, int& index) {
   std::from_chars(digits.data(), digits.data() + digits.size(), value);
   if (digits.size() > 10 || value > INT_MAX) value = INT_MAX;  // absurd indexes saturate
   index = static_cast<int>(value);
-  return std::string(cutAtSpace(trimView(t.substr(0, open))));
+  return cutAtSpace(trimView(t.substr(0, open)));
+}
+
+std::string splitArrayIndex(std::string_view name, int& index) {
+  return std::string(splitArrayIndexView(name, index));
 }
 
 bool buildSectionIndex(const std::string& fileName) {

@@ -16,6 +16,8 @@ class LineReader;
 
 std::string parseTitleLine(std::string_view line, std::string& association);
 std::string splitArrayIndex(std::string_view name, int& index);
+// The same as a view into `name`, for loops that must not allocate.
+std::string_view splitArrayIndexView(std::string_view name, int& index);
 
 // Rebuilds the run state's `sectionIndex` and `sectionGroups` from the file; false when the file
 // cannot be opened (the index then stays empty).

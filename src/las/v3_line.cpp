@@ -131,10 +131,9 @@ int parseV3Line(std::string_view line, std::string& currentSection, V3LineDiagno
     return V3_BAD;
   }
 
+  // Data lines come by the million: their path allocates nothing.
   int index = 0;
-  std::string base = splitArrayIndex(currentSection, index);
-  int role = sectionRoleOf(currentSection);
-  if (!isPdlSection(base)) {
+  if (!isPdlSection(splitArrayIndexView(currentSection, index))) {
     const std::string& dataName = runState().dataSectionName;
     if ((!dataName.empty() && iequals(currentSection, dataName)) ||
         icontains(currentSection, "_Data"))
@@ -163,7 +162,7 @@ int parseV3Line(std::string_view line, std::string& currentSection, V3LineDiagno
   std::string description = fieldDescription(line);
   if (!isLegalDescriptionText(description)) d[SLOT_DESCRIPTION] = description;
 
-  checkFormatPart(line, role, d);
+  checkFormatPart(line, sectionRoleOf(currentSection), d);
   if (!isLegalAssociationList(line)) d[SLOT_ASSOCIATION] = std::string(line);
   return V3_PDL;
 }

@@ -40,6 +40,8 @@ void PrintTo(LineKind kind, std::ostream* os) {
 
 namespace {
 
+const std::string kV20 = std::string(ZORVIK_TEST_DATA) + "/las/sections_v20.las";
+
 class HeaderLine : public ::testing::Test {
  protected:
   void SetUp() override { resetRunState(); }
@@ -213,6 +215,66 @@ TEST_F(HeaderLine, CountsWordsAndListEntries) {
     SCOPED_TRACE(f.mnemonic);
     EXPECT_EQ(mnemonicListHas("DEPT GR NPHI ", f.mnemonic), f.found);
   }
+}
+
+TEST_F(HeaderLine, ParameterTableOfASection) {
+  runState().lasVersion = 2.0f;
+  struct Row {
+    const char* section;
+    const char* delimiter;
+    const char* validList;
+    std::vector<std::array<std::string, 6>> entries;
+  };
+  const Row rows[] = {
+      {"Well",
+       " ",
+       "STRT STOP STEP NULL COMP WELL ",
+       {{"STRT", "M", "1670.0", "START DEPTH", "", ""},
+        {"STOP", "M", "1669.75", "STOP DEPTH", "", ""},
+        {"STEP", "M", "-0.125", "STEP", "", ""},
+        {"NULL", "", "-999.25", "NULL VALUE", "", ""},
+        {"COMP", "", "ANY OIL COMPANY INC.", "COMPANY", "", ""},
+        {"WELL", "", "AAAAA 1", "WELL", "", ""}}},
+      {"Curve",
+       " ",
+       "DEPT GR NPHI ",
+       {{"DEPT", "M", "", "DEPTH", "", ""},
+        {"GR", "GAPI", "", "GAMMA RAY", "", ""},
+        {"NPHI", "V/V", "", "NEUTRON POROSITY", "", ""},
+        {"DE PT", "M", "", "BAD MNEMONIC", "", ""}}},
+      // "RUN.  1" has no colon of its own but the section's last colon lies further right.
+      {"Parameter",
+       " ",
+       "RUN MUD BHT ",
+       {{"RUN", "", "", "", "", ""},
+        {"MUD", "", "GEL", "MUD TYPE", "", ""},
+        {"BHT", "DEGC", "35.5", "BOTTOM HOLE TEMPERATURE", "", ""}}},
+      // With a tab delimiter tabs stay, and the line is no longer well formed.
+      {"Parameter",
+       "\t",
+       "RUN MUD BHT ",
+       {{"RUN", "", "", "", "", ""},
+        {"MUD", "\tGEL", "", "MUD TYPE", "", ""},
+        {"BHT", "DEGC", "35.5", "BOTTOM HOLE TEMPERATURE", "", ""}}},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(std::string(row.section) + " delimiter [" + row.delimiter + "]");
+    runState().dataDelimiter = row.delimiter;
+    ParamTable table;
+    table.entries.push_back({"stale"});
+    ASSERT_EQ(parseSectionTable(kV20, table, row.section), -1);
+    EXPECT_EQ(table.validMnemonics(), row.validList);
+    ASSERT_EQ(table.lastEntry(), static_cast<int>(row.entries.size()));
+    for (int i = 1; i <= table.lastEntry(); ++i) EXPECT_EQ(table.entries[i], row.entries[i - 1]);
+  }
+
+  ParamTable table;
+  ASSERT_EQ(parseSectionTable(kV20, table, "Well"), -1);
+  EXPECT_EQ(mnemonicValue(table, "null"), "-999.25");
+  EXPECT_EQ(mnemonicValue(table, "COMM"), " ");  // commented out
+  EXPECT_EQ(parseSectionTable(kV20, table, "Tops"), 1);
+  EXPECT_EQ(table.lastEntry(), 0);
+  EXPECT_EQ(table.validMnemonics(), "");
 }
 
 }  // namespace

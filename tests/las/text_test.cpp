@@ -19,9 +19,13 @@ TEST(Text, SearchesAreOneBasedAndIgnoreCase) {
 }
 
 TEST(Text, LeadingNumberReadsLikeClassicVal) {
-  struct Row { const char* text; double value; };
-  const Row rows[] = {{"2.0", 2.0}, {"  1.20  : x", 1.2}, {"abc", 0}, {"-3.5e2x", -350},
-                      {"3.", 3}, {"", 0}, {"1e", 1}};
+  struct Row {
+    const char* text;
+    double value;
+  };
+  const Row rows[] = {
+      {"2.0", 2.0}, {"  1.20  : x", 1.2}, {"abc", 0}, {"-3.5e2x", -350}, {"3.", 3}, {"", 0},
+      {"1e", 1}};
   for (const Row& r : rows) {
     SCOPED_TRACE(r.text);
     EXPECT_DOUBLE_EQ(leadingNumber(r.text), r.value);
