@@ -1,14 +1,19 @@
 #include "cert3/data_items.h"
 
-#include "las/text.h"
-
 namespace zorvik {
 
 namespace {
 
+// Blanks (spaces only) trimmed from both ends; kept here so the hot loop stays inline.
+std::string_view trimBlanks(const char* begin, const char* end) {
+  while (begin != end && *begin == ' ') ++begin;
+  while (end != begin && end[-1] == ' ') --end;
+  return std::string_view(begin, static_cast<std::size_t>(end - begin));
+}
+
 // An item as written between two separators: blanks trimmed, enclosing quotes removed.
 std::string_view cleanItem(std::string_view raw) {
-  std::string_view item = trimView(raw);
+  std::string_view item = trimBlanks(raw.data(), raw.data() + raw.size());
   if (item.size() >= 2 && item.front() == '"' && item.back() == '"') {
     item = item.substr(1, item.size() - 2);
   } else if (!item.empty() && item.front() == '"') {
@@ -17,22 +22,27 @@ std::string_view cleanItem(std::string_view raw) {
   return item;
 }
 
-void splitPlain(std::string_view line, char delimiter, std::vector<std::string_view>& items) {
-  std::size_t start = 0;
-  for (;;) {
-    std::size_t cut = line.find(delimiter, start);
-    if (cut == std::string_view::npos) {
-      items.push_back(trimView(line.substr(start)));
-      return;
+// Cuts at every delimiter; false (items incomplete) as soon as a double quote turns up.
+bool splitPlain(std::string_view line, char delimiter, std::vector<std::string_view>& items) {
+  const char* p = line.data();
+  const char* end = p + line.size();
+  const char* start = p;
+  for (; p != end; ++p) {
+    char c = *p;
+    if (c == delimiter) {
+      items.push_back(trimBlanks(start, p));
+      start = p + 1;
+    } else if (c == '"') {
+      return false;
     }
-    items.push_back(trimView(line.substr(start, cut - start)));
-    start = cut + 1;
   }
+  items.push_back(trimBlanks(start, end));
+  return true;
 }
 
 void splitQuoted(std::string_view line, char delimiter, std::vector<std::string_view>& items) {
   const bool spaces = delimiter == ' ';
-  if (spaces) line = trimView(line);
+  if (spaces) line = trimBlanks(line.data(), line.data() + line.size());
   if (spaces && line.empty()) return;
   std::size_t start = 0;
   bool quoted = false;
@@ -55,11 +65,9 @@ void splitQuoted(std::string_view line, char delimiter, std::vector<std::string_
 
 void splitDataItems(std::string_view line, char delimiter, std::vector<std::string_view>& items) {
   items.clear();
-  if (delimiter == ' ' || line.find('"') != std::string_view::npos) {
-    splitQuoted(line, delimiter, items);
-  } else {
-    splitPlain(line, delimiter, items);
-  }
+  if (delimiter != ' ' && splitPlain(line, delimiter, items)) return;
+  items.clear();
+  splitQuoted(line, delimiter, items);
 }
 
 }  // namespace zorvik

@@ -1,23 +1,10 @@
 #include "cert3/item_format.h"
 
-#include "las/text.h"
 #include "las/value_format.h"
 
 namespace zorvik {
 
 namespace {
-
-bool isDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
-bool allDigits(std::string_view s) {
-  if (s.empty()) return false;
-  for (char c : s) {
-    if (!isDigit(c)) return false;
-  }
-  return true;
-}
 
 std::size_t digitsValue(std::string_view s) {
   std::size_t v = 0;
@@ -25,53 +12,15 @@ std::size_t digitsValue(std::string_view s) {
   return v;
 }
 
-// A plain decimal number: optional sign, digits with at most one point, at least one digit.
-// Gives the position of the point (npos without one).
-bool isPlainNumber(std::string_view s, std::size_t& point) {
-  point = std::string_view::npos;
-  std::size_t i = 0;
-  if (i < s.size() && (s[i] == '+' || s[i] == '-')) ++i;
-  bool digit = false;
-  for (; i < s.size(); ++i) {
-    char c = s[i];
-    if (isDigit(c)) {
-      digit = true;
-    } else if (c == '.' && point == std::string_view::npos) {
-      point = i;
-    } else {
-      return false;
-    }
-  }
-  return digit;
-}
-
-bool quickAccepts(std::string_view item, const ItemFormat& f) {
-  std::size_t point = 0;
-  switch (f.quick) {
-    case ItemFormat::QUICK_NUMBER:
-      return isPlainNumber(item, point);
-    case ItemFormat::QUICK_FIXED:
-      return item.size() == f.width && isPlainNumber(item, point) &&
-             point != std::string_view::npos && item.size() - point - 1 == f.decimals;
-    case ItemFormat::QUICK_DIGITS:
-      return allDigits(item);
-    case ItemFormat::QUICK_DIGITS_SIZED:
-      return item.size() == f.width && allDigits(item);
-    case ItemFormat::QUICK_ANY:
-      return true;
-    case ItemFormat::QUICK_NONE:
-      break;
-  }
-  return false;
-}
-
 }  // namespace
 
 ItemFormat parseItemFormat(std::string_view format) {
+  using item_scan::allDigits;
   ItemFormat f;
   f.text = std::string(format);
   std::string_view spec = format.empty() ? format : format.substr(1);
   char code = format.empty() ? 'F' : format.front();
+  // Specs of ten digits or more are left to the full test rather than risk an overflow here.
   if (code == 'F') {
     std::size_t dot = spec.find('.');
     if (spec.empty()) {
@@ -95,10 +44,7 @@ ItemFormat parseItemFormat(std::string_view format) {
   return f;
 }
 
-bool itemFitsFormat(std::string_view item, const ItemFormat& format) {
-  std::string_view t = trimView(item);
-  if (t.empty()) return true;
-  if (t.size() == item.size() && quickAccepts(item, format)) return true;
+bool itemFitsFormatFully(std::string_view item, const ItemFormat& format) {
   return valueMatchesFormat(item, format.text) == -1;
 }
 
