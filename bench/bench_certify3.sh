@@ -4,12 +4,16 @@
 #
 #   bench/bench_certify3.sh [--mb 500] [--runs 3] [--dir SCRATCH]
 #
-# The file is written by gen_las.py (GEN_LAS, default ../shared/tools/gen_las.py beside the
+# The file is written by gen_las.py (GEN_LAS, by default ../shared/tools/gen_las.py beside the
 # repository) with 20 curves. A Release build goes to build-release/.
 set -euo pipefail
 
 ROOT="$(cd "$(dirname "$0")/.." && pwd)"
-GEN_LAS="${GEN_LAS:-$ROOT/../shared/tools/gen_las.py}"
+if [[ -z "${GEN_LAS:-}" ]]; then  # beside the repository, or beside the folder of its worktrees
+  for g in "$ROOT/../shared/tools/gen_las.py" "$ROOT/../../shared/tools/gen_las.py"; do
+    [[ -f "$g" ]] && GEN_LAS="$g" && break
+  done
+fi
 MB=500
 RUNS=3
 DIR=""
