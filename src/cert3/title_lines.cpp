@@ -1,5 +1,6 @@
 #include "cert3/title_lines.h"
 
+#include <cstdint>
 #include <string_view>
 
 #include "checks/check_table.h"
@@ -56,14 +57,60 @@ void judgeLine2(std::string_view line, std::string& slot) {
   }
 }
 
+// Big files hold tildes only in their first few lines, so the file is searched for tildes block
+// by block and only a line that holds one is read as a line. `lineStart` is the 1-based position
+// of the line that holds the first byte of the block in hand.
+constexpr std::int64_t BLOCK_BYTES = 256 * 1024;
+
 int runPass(const std::string& fileName, std::string& slot,
             void (*judge)(std::string_view, std::string&)) {
   try {
     LineReader reader;
     if (!reader.open(fileName)) return CHECK_FAULT;
+    std::string block;
     std::string_view line;
-    while (reader.readLine(line)) {
-      if (line.find('~') != std::string_view::npos) judge(line, slot);
+    std::int64_t blockStart = 1;
+    std::int64_t lineStart = 1;
+    bool endedWithCr = false;  // the previous block's last byte was a CR
+    for (;;) {
+      reader.readRange(blockStart, BLOCK_BYTES, block);
+      if (block.empty()) break;
+      const std::string_view bytes = block;
+      // A CR that ended the previous block ends a line here, with the LF when one follows.
+      if (endedWithCr) lineStart = blockStart + (bytes.front() == '\n' ? 1 : 0);
+      std::size_t from = 0;  // offset of a line start (or of the block) to search from
+      std::int64_t next = blockStart + static_cast<std::int64_t>(bytes.size());
+      for (;;) {
+        const std::size_t tilde = bytes.find('~', from);
+        if (tilde == std::string_view::npos) break;
+        const std::size_t cr = bytes.substr(from, tilde - from).rfind('\r');
+        if (cr != std::string_view::npos) {
+          const std::size_t after = from + cr + 1;
+          lineStart = blockStart + static_cast<std::int64_t>(after + (bytes[after] == '\n'));
+        } else if (from > 0) {
+          lineStart = blockStart + static_cast<std::int64_t>(from);
+        }
+        reader.seek(lineStart);
+        reader.readLine(line);
+        judge(line, slot);
+        lineStart = reader.position();
+        if (lineStart >= next) break;
+        from = static_cast<std::size_t>(lineStart - blockStart);
+      }
+      if (lineStart >= next) {  // the line read ran past the block: go on after it
+        endedWithCr = false;
+        blockStart = lineStart;
+        continue;
+      }
+      const std::size_t cr = bytes.substr(from).rfind('\r');
+      endedWithCr = cr != std::string_view::npos && from + cr + 1 == bytes.size();
+      if (cr != std::string_view::npos && !endedWithCr) {
+        const std::size_t after = from + cr + 1;
+        lineStart = blockStart + static_cast<std::int64_t>(after + (bytes[after] == '\n'));
+      } else if (cr == std::string_view::npos && from > 0) {
+        lineStart = blockStart + static_cast<std::int64_t>(from);
+      }
+      blockStart = next;
     }
     return slot.empty() ? CHECK_PASSED : CHECK_FAILED;
   } catch (const std::exception&) {

@@ -62,6 +62,27 @@ TEST(TitleLines, EachPassJudgesTildeLinesByItsOwnRules) {
   }
 }
 
+TEST(TitleLines, LinesAcrossReadBlocksAreFoundWhole) {
+  // The file is searched in blocks of 256 KiB: put the line ends and the tilde line around the
+  // first block boundary, and a long line with a tilde late in it across the second one.
+  const std::size_t boundary = 256 * 1024;
+  for (const std::string end : {"\r\n", "\r"}) {
+    for (int shift = -3; shift <= 3; ++shift) {
+      SCOPED_TRACE(std::to_string(shift) + (end == "\r" ? " after a lone CR" : " after CR LF"));
+      const std::string head = "~Version" + end;
+      // "x~y" starts `shift` bytes after the boundary.
+      const std::string filler(boundary + shift - head.size() - end.size(), 'a');
+      const std::string longLine = std::string(boundary, 'b') + "~";
+      ScratchFile file(head + filler + end + "x~y" + end + longLine + end + "~A" + end);
+      std::string slot3, slot2;
+      checkTitleLines3(file.path(), slot3);
+      checkTitleLines2(file.path(), slot2);
+      EXPECT_EQ(slot3, NOT_FIRST + "x~y\r\n" + NOT_FIRST + longLine + "\r\n");
+      EXPECT_EQ(slot2, NOT_FIRST + "x~y" + NOT_FIRST + longLine);
+    }
+  }
+}
+
 TEST(TitleLines, FindingsAreAppendedToWhatTheSlotHeld) {
   ScratchFile file(crlfLines({"~"}));
   std::string slot = "before\r\n";
