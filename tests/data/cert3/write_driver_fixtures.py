@@ -179,6 +179,11 @@ FIXTURES = {
         "STOP.", ["STOP.M   1000.500             : STOP DEPTH"])
     + ["1000.00,45.2", "1000.13,50.1", "1000.25,48.7", "1000.38,47.3", "1000.50,44.9"],
     "g6_rounding": replace(base(), "1001.000,48.7", ["1000.99999,48.7"]),
+    # Only the standard section names lead the STRT/STOP/STEP checks to the data: a file whose
+    # one set is named otherwise passes group 6 unchecked, STRT off the data and all.
+    "g6_skipped_without_standard_sections": replace(
+        log_sets([line.replace("Log_", "Core_") for line in log_set(1)]), "STRT.",
+        ["STRT.M   999.500              : START DEPTH"]),
     "g6_units": replace(base(), "STEP.", ["STEP.FT  0.500                : STEP"]),
 }
 
