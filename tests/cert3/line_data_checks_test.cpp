@@ -2,6 +2,7 @@
 // the fixtures, as the 3.0 driver runs them once the section model is built.
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <functional>
 #include <map>
 #include <string>
@@ -186,6 +187,88 @@ TEST(LineDataChecks, MissingFileFindsNothing) {
     EXPECT_EQ(check(kData + "no_such_file.las", slots), CHECK_PASSED);
     EXPECT_EQ(slots[1], "");
   }
+}
+
+}  // namespace
+}  // namespace zorvik
+
+namespace zorvik {
+namespace {
+
+// A 3.0 file written for one test: ~Version (comma), a ~Log_Parameter section of `parameters`
+// lines, a two-channel ~Log_Definition and `data` lines.
+std::string writeLargeFile(const std::string& name, const std::vector<std::string>& parameters,
+                           const std::vector<std::string>& data) {
+  std::string text =
+      "~Version\r\nVERS. 3.0 : V\r\nWRAP. NO : W\r\nDLM . COMMA : D\r\n~Log_Parameter\r\n";
+  for (const std::string& line : parameters) text += line + "\r\n";
+  text += "~Log_Definition\r\nDEPT.M : DEPTH {F}\r\nGR  .GAPI : GAMMA {F}\r\n";
+  text += "~Log_Data | Log_Definition\r\n";
+  for (const std::string& line : data) text += line + "\r\n";
+  std::string path = ::testing::TempDir() + name;
+  std::ofstream(path, std::ios::binary) << text;
+  return path;
+}
+
+Slots runOn(const std::string& path, const Check& check, int& result) {
+  resetRunState();
+  runState().lasVersion = 3.0f;
+  runState().dataDelimiter = ",";
+  locateStandardSections(path);
+  Slots slots;
+  slots.fill(" ");
+  result = check(path, slots);
+  return slots;
+}
+
+std::size_t countOf(const std::string& text, const std::string& what) {
+  std::size_t n = 0;
+  for (std::size_t p = text.find(what); p != std::string::npos; p = text.find(what, p + 1)) ++n;
+  return n;
+}
+
+// Thousands of lines that refer each to the next, the last back to the first: every one is in
+// the loop, and the check ends.
+TEST(LineDataChecks, LongAssociationLoopEnds) {
+  const int n = 5000;
+  std::vector<std::string> lines;
+  for (int i = 0; i < n; ++i) {
+    lines.push_back("P" + std::to_string(i) + ". 1 : p {F} | P" + std::to_string((i + 1) % n));
+  }
+  std::string path = writeLargeFile("cert3b_long_loop.las", lines, {"1,2"});
+  int result = 0;
+  Slots slots = runOn(path, checkAssociations, result);
+  EXPECT_EQ(result, CHECK_FAILED);
+  EXPECT_EQ(slots[1], "");
+  EXPECT_EQ(countOf(slots[2], "Circular Association at line: "), static_cast<std::size_t>(n));
+}
+
+// Data lines that all fail are listed up to a bound and then counted, so findings about a large
+// data section stay readable and small.
+TEST(LineDataChecks, DataLineFindingsAreBounded) {
+  std::vector<std::string> data{"0.5,1"};
+  for (int i = 1; i <= 1000; ++i) data.push_back(std::to_string(i) + ".5,x,9");
+  std::string path = writeLargeFile("cert3b_bounded.las", {}, data);
+  int result = 0;
+  Slots slots = runOn(path, checkColumnData, result);
+  EXPECT_EQ(result, CHECK_FAILED);
+  EXPECT_EQ(countOf(slots[3], "Data column item (x) in ~Log_Data @ "), 100u);
+  EXPECT_NE(slots[3].find("Data column item (x) in ~Log_Data @ 1.5 wrong format {F}\r\n"),
+            std::string::npos);
+  EXPECT_NE(slots[3].find("\r\n900 more findings of this kind not listed\r\n"), std::string::npos);
+  EXPECT_EQ(countOf(slots[2], "Line was\r\n"), 100u);
+  EXPECT_NE(slots[2].find("\r\n900 more findings of this kind not listed\r\n"), std::string::npos);
+
+  // Lines without the delimiter: the parser's findings are bounded too, the section's own
+  // finding is told once.
+  data.erase(data.begin());
+  for (std::string& line : data) line = line.substr(0, line.find(','));
+  path = writeLargeFile("cert3b_bounded_g4.las", {}, data);
+  slots = runOn(path, checkLineStructure3, result);
+  EXPECT_EQ(countOf(slots[10], "Expected COL_DATA line"), 100u);
+  EXPECT_EQ(countOf(slots[10], "No delimiters found in section Log_Data"), 1u);
+  EXPECT_EQ(countOf(slots[10], "No Delimiters found in section Log_Data"), 1u);
+  EXPECT_NE(slots[10].find("\r\n900 more findings of this kind not listed\r\n"), std::string::npos);
 }
 
 }  // namespace
