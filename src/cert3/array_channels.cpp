@@ -34,9 +34,8 @@ std::string_view arrayBaseMnemonic(std::string_view mnemonic) {
 
 std::string_view writtenFormat(std::string_view line) {
   std::size_t open = line.find('{');
-  if (open == std::string_view::npos) return {};
-  std::size_t close = line.find('}', open + 1);
-  if (close == std::string_view::npos) return {};
+  std::size_t close = line.find('}');
+  if (open == std::string_view::npos || close == std::string_view::npos || close < open) return {};
   return trimView(line.substr(open + 1, close - open - 1));
 }
 

@@ -15,13 +15,15 @@ namespace zorvik {
 // that cannot be opened has no lines, so nothing is found in it.
 int checkArrayChannels(const std::string& fileName, Slots& slots);
 
+// The helpers below cannot fail.
+//
 // The whole number between a mnemonic's "[" and the following "]"; -1 when there is none
 // ("NMR[3]" gives 3, "NMR", "NMR[]" and "NMR[x]" give -1).
 int arrayElementNumber(std::string_view mnemonic);
 // The mnemonic without its "[" and what follows ("NMR[3]" gives "NMR").
 std::string_view arrayBaseMnemonic(std::string_view mnemonic);
-// The text between a line's first "{" and the first "}" after it, trimmed, as written (array
-// marker and spacing kept); "" when the line has no such pair.
+// The text between a line's first "{" and its first "}", trimmed, as written (array marker and
+// spacing kept); "" when either is missing or the "}" comes first.
 std::string_view writtenFormat(std::string_view line);
 
 }  // namespace zorvik

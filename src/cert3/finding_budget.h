@@ -1,6 +1,6 @@
 // Keeps the findings about lines of a file to a readable, bounded amount. A data section of
 // millions of lines may fail on every line; the report lists the first ones and counts the rest,
-// so that neither the report nor the memory of a run grows with the size of the file.
+// so that neither the report nor the memory of a run grows with the size of the file. Cannot fail.
 #pragma once
 
 #include <cstddef>

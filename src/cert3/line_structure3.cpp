@@ -21,7 +21,7 @@ constexpr std::array<int, 10> kItems = {1, 2, 3, 5, 6, 7, 8, 9, 10, 11};
 // Labels that lead the findings of items 1 to 3 (item 4 is never filed).
 constexpr std::array<std::string_view, 4> kLabels = {"", "Mnem :", "Unit :", "Value:"};
 
-// Item 9 keeps the older two-space wording; the parser never fills slot 9, so every finding a
+// Item 9 is the one written with two spaces; the parser never fills slot 9, so every finding a
 // user sees reads " ( in ~" alike.
 std::string_view sectionOpener(int item) {
   return item == 9 ? " (  in ~" : " ( in ~";
@@ -38,7 +38,7 @@ struct DataSectionScan {
 
 class LineStructureCheck {
  public:
-  LineStructureCheck(Slots& slots) : slots_(slots) {}
+  explicit LineStructureCheck(Slots& slots) : slots_(slots) {}
 
   void run(const std::string& fileName) {
     LineReader reader;

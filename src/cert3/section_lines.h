@@ -1,4 +1,5 @@
 // Reading the lines of one section of a file, from its first line up to the next title line.
+// None of these can fail: a read error looks like the end of the file.
 #pragma once
 
 #include <cstdint>

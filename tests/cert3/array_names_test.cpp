@@ -44,6 +44,7 @@ TEST(ArrayNames, WrittenFormatKeepsMarkerAndSpacing) {
       {"DEPT.M : Depth", ""},
       {"DEPT.M : Depth }F{", ""},
       {"DEPT.M : Depth {F", ""},
+      {"NMR[1].ms : Bin }x{AF}", ""},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.line);
