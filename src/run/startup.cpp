@@ -30,6 +30,17 @@ std::string commandLineOf(int argc, char** argv) {
   return line;
 }
 
+// "/W" is looked for anywhere after the first word, in any letter case. Here absolute paths
+// begin with "/", so a log file under "/work" would read as the option too: the " /W" found
+// must end at a blank or at the end of the line.
+bool hasWrapOption(const std::string& line) {
+  for (std::size_t at = ifind(line, " /W"); at != 0; at = ifind(line, " /W", at + 1)) {
+    std::size_t after = at + 3;  // 1-based position just past the match
+    if (after > line.size() || line[after - 1] == ' ') return true;
+  }
+  return false;
+}
+
 std::string withoutQuotes(const std::string& word) {
   return trim(replaceAll(word, "\"", ""));
 }
@@ -116,7 +127,7 @@ int startUp(int argc, char** argv) {
         return Next::Step;
       }
       case 14:
-        state.doWrap = icontains(trimmed, " /W");
+        state.doWrap = hasWrapOption(trimmed);
         return Next::Step;
       case 15:
         state.logFile = state.commandWords.at(1);

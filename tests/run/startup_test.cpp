@@ -159,7 +159,11 @@ TEST(StartUp, WrapOptionFoundAnywhereAfterTheFirstWord) {
                       {" {d}/out.log /w", true},
                       {" {d}/out.log", false},
                       {" {d}/out.log x /W", true},
-                      {" {d}/out.log/W", false}};
+                      {" {d}/out.log/W", false},
+                      {" {d}/out.log /Wrap", false},
+                      // A log folder starting with "w" is not the option.
+                      {" /wzorvik-no-such-folder/out.log", false},
+                      {" /wzorvik-no-such-folder/out.log /W", true}};
   for (const Row& row : rows) {
     SCOPED_TRACE(row.tail);
     RunSandbox sandbox;
