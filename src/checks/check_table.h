@@ -17,10 +17,10 @@ namespace zorvik {
 using Slots = std::array<std::string, 16>;
 
 // Codes every check procedure returns.
-inline constexpr int CHECK_PASSED = -1;   // all its rows passed
-inline constexpr int CHECK_FAILED = 1;    // at least one row holds findings
-inline constexpr int CHECK_FAULT = 0;     // an internal fault ended it
-inline constexpr int CHECK_NOTHING = 2;   // nothing to record
+inline constexpr int CHECK_PASSED = -1;  // all its rows passed
+inline constexpr int CHECK_FAILED = 1;   // at least one row holds findings
+inline constexpr int CHECK_FAULT = 0;    // an internal fault ended it
+inline constexpr int CHECK_NOTHING = 2;  // nothing to record
 
 // Run status returned by the file-level checks, the version drivers and the log writer.
 inline constexpr int RUN_COMPLETED = -1;

@@ -23,7 +23,7 @@ struct SectionEntry {
   std::int64_t start = 0;   // 1-based position of the line after the title line
   int arrayIndex = -1;      // n of a trailing "[n]", -1 without brackets
   int role = ROLE_OTHER;
-  std::string spare;        // left empty by the index build
+  std::string spare;  // left empty by the index build
 };
 
 // A 3.0 section set sharing one name prefix ("Log" for Log_Parameter/Log_Definition/Log_Data).

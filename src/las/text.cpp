@@ -18,10 +18,16 @@ std::string_view trimRightView(std::string_view s) {
   return s.substr(0, e);
 }
 
-std::string_view trimView(std::string_view s) { return trimRightView(trimLeftView(s)); }
-std::string trim(std::string_view s) { return std::string(trimView(s)); }
+std::string_view trimView(std::string_view s) {
+  return trimRightView(trimLeftView(s));
+}
+std::string trim(std::string_view s) {
+  return std::string(trimView(s));
+}
 
-char toUpperAscii(char c) { return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c; }
+char toUpperAscii(char c) {
+  return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
+}
 
 std::string toUpper(std::string_view s) {
   std::string out(s);
@@ -60,7 +66,9 @@ std::size_t ifindLast(std::string_view s, std::string_view what) {
   return 0;
 }
 
-bool icontains(std::string_view s, std::string_view what) { return ifind(s, what) != 0; }
+bool icontains(std::string_view s, std::string_view what) {
+  return ifind(s, what) != 0;
+}
 
 std::size_t findPos(std::string_view s, std::string_view what, std::size_t from) {
   if (from < 1) from = 1;
@@ -78,13 +86,17 @@ std::size_t findLastPos(std::string_view s, std::string_view what) {
 bool contains(std::string_view s, std::string_view what) {
   return s.find(what) != std::string_view::npos;
 }
-bool contains(std::string_view s, char c) { return s.find(c) != std::string_view::npos; }
+bool contains(std::string_view s, char c) {
+  return s.find(c) != std::string_view::npos;
+}
 
 std::string_view mid(std::string_view s, std::size_t start, std::size_t count) {
   if (start < 1 || start > s.size()) return {};
   return s.substr(start - 1, count);
 }
-std::string_view left(std::string_view s, std::size_t count) { return s.substr(0, count); }
+std::string_view left(std::string_view s, std::size_t count) {
+  return s.substr(0, count);
+}
 std::string_view right(std::string_view s, std::size_t count) {
   return count >= s.size() ? s : s.substr(s.size() - count);
 }
@@ -139,7 +151,9 @@ std::string replaceAll(std::string_view s, std::string_view what, std::string_vi
 
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 // Length of the longest numeric prefix of `s` (sign, digits, one point, optional exponent), or 0
 // when no digit is present. Mirrors what a classic numeric conversion accepts.

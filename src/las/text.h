@@ -37,11 +37,13 @@ bool contains(std::string_view s, std::string_view what);
 bool contains(std::string_view s, char c);
 
 // 1-based substring: `count` characters from `start`, clipped to the text; empty when out of range.
-std::string_view mid(std::string_view s, std::size_t start, std::size_t count = std::string_view::npos);
+std::string_view mid(std::string_view s, std::size_t start,
+                     std::size_t count = std::string_view::npos);
 std::string_view left(std::string_view s, std::size_t count);
 std::string_view right(std::string_view s, std::size_t count);
 
-// Splits at every occurrence of `separator` (empty fields kept). An empty text gives one empty field.
+// Splits at every occurrence of `separator` (empty fields kept). An empty text gives one empty
+// field.
 std::vector<std::string> split(std::string_view s, std::string_view separator);
 // Splits on runs of spaces after trimming; an all-blank text gives one empty field.
 std::vector<std::string> splitOnBlanks(std::string_view s);

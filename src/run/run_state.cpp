@@ -13,6 +13,8 @@ void resetRunState() {
   runState().window = window;
 }
 
-bool isVersion3() { return runState().lasVersion == 3.0f; }
+bool isVersion3() {
+  return runState().lasVersion == 3.0f;
+}
 
 }  // namespace zorvik

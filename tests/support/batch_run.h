@@ -8,8 +8,9 @@
 namespace zorvik::testing {
 
 struct BatchResult {
-  std::string report;       // log file contents, the "Date: ..." part of line 2 replaced by "Date: <date>"
-  std::string commandLog;   // command.log entries appended during the run
+  std::string
+      report;  // log file contents, the "Date: ..." part of line 2 replaced by "Date: <date>"
+  std::string commandLog;  // command.log entries appended during the run
   bool reportWritten = false;
 };
 
