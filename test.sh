@@ -1,11 +1,19 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and runs every test: a normal build and a sanitizer build.
+# Installs what is missing, checks the formatting, builds, and runs every test twice: in a normal
+# build and in an AddressSanitizer + UndefinedBehaviorSanitizer build. Safe to run again: both
+# builds are incremental.
 set -euo pipefail
 cd "$(dirname "$0")"
-ZORVIK_GUI=${ZORVIK_GUI:-OFF} ./tools/ensure_deps.sh
+gui=${ZORVIK_GUI:-OFF}
+ZORVIK_GUI=$gui ./tools/ensure_deps.sh
+
+if command -v clang-format >/dev/null; then
+  echo "== format"
+  find src tests \( -name '*.cpp' -o -name '*.h' \) -print0 | xargs -0 clang-format --dry-run --Werror
+fi
 
 jobs=$(nproc)
-cmake -S . -B build/release -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DZORVIK_GUI=${ZORVIK_GUI:-OFF} >/dev/null
+cmake -S . -B build/release -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DZORVIK_GUI="$gui" >/dev/null
 cmake --build build/release -j "$jobs"
 cmake -S . -B build/sanitize -G Ninja -DCMAKE_BUILD_TYPE=Debug -DZORVIK_GUI=OFF -DZORVIK_SANITIZE=ON >/dev/null
 cmake --build build/sanitize -j "$jobs"
