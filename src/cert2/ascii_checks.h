@@ -6,8 +6,10 @@
 
 #include <string>
 
+#include "cert2/data_scan.h"
 #include "checks/check_table.h"
 #include "las/header_line.h"
+#include "las/section_types.h"
 
 namespace zorvik {
 
@@ -16,5 +18,14 @@ namespace zorvik {
 // only when runState().doWrap is set.
 int checkAsciiSection(const std::string& fileName, const std::string& wrapValue, int linesPerRecord,
                       int channels, const ParamTable& curveTable, Slots& slots);
+
+// The number of channel definitions the data section must carry values for: those of the section
+// it is associated with, or of the driver's ~Curve table when that is the one or the data names
+// none. `definitionName` receives that section's name. Cannot fail (a missing section has none).
+int dataChannelDefinitions(const std::string& fileName, const SectionEntry& dataSection,
+                           const ParamTable& curveTable, std::string& definitionName);
+
+// How the records of the data are judged for a WRAP value and group 4's lines per record.
+RecordRules asciiRecordRules(const std::string& wrapValue, int linesPerRecord, int definitions);
 
 }  // namespace zorvik

@@ -140,41 +140,12 @@ int analyseIncrements(const std::string& fileName, int linesPerRecord, Increment
   if (!file.open(fileName)) return STEP_UNREADABLE;
   std::int64_t first = firstDataLinePosition(fileName);
   if (noDataAt(first, file.length())) return STEP_UNANALYSABLE;
-  if (linesPerRecord < 1) linesPerRecord = 1;
-  char delimiter = dataDelimiterChar();
-
+  IncrementWalk walk(linesPerRecord, dataDelimiterChar());
   file.seek(first);
-  std::int64_t records = 0;
-  int lineInRecord = 0;
-  double previous = 0;
-  float firstIncrement = 0;
   std::string_view line;
-  while (file.readLine(line)) {
-    std::string_view t = trimLeftView(line);
-    if (isTitle(t)) break;
-    if (t.empty() || t[0] == '#') continue;
-    bool indexLine = lineInRecord == 0;
-    lineInRecord = (lineInRecord + 1) % linesPerRecord;
-    if (!indexLine) continue;
-
-    std::string_view field = leadingField(t, delimiter);
-    double value = 0;
-    if (!parseRoundedNumber(field, value)) return STEP_UNANALYSABLE;
-    if (++records >= 2) {
-      double increment = value - previous;
-      result.increment = increment;
-      result.index = value;
-      if (records == 2) {
-        firstIncrement = static_cast<float>(increment);
-      } else if (static_cast<float>(increment) != firstIncrement) {
-        result.indexText.assign(field);
-        return STEP_VARIES;
-      }
-    }
-    previous = value;
-    if (records >= 2) result.indexText.assign(field);
+  while (file.readLine(line) && walk.feed(line)) {
   }
-  return records < 2 ? STEP_UNANALYSABLE : STEP_CONSTANT;
+  return walk.finish(result);
 }
 
 int checkIndexRange(const std::string& fileName, const WellRange& well,
@@ -209,7 +180,7 @@ int checkIndexRange(const std::string& fileName, const WellRange& well,
                ", STOP=" + shownUnit(stop.unit) + ", STEP=" + shownUnit(step.unit) + ", " +
                indexMnemonic + "=" + shownUnit(indexUnit);
 
-  int linesPerRecord = 1;
+  int linesPerRecord = 0;
   int bufferLength = 0;
   int channels = 0;
   analyseWrap(fileName, linesPerRecord, bufferLength, channels, curveTable.lastEntry());
@@ -244,6 +215,7 @@ int checkIndexRange(const std::string& fileName, const WellRange& well,
     }
     stop.number = ends.last;
     state.nullStopRepaired = true;
+    state.dataScan = {};
     buildSectionIndex(fileName);  // the header changed length: stored positions moved
   }
 
@@ -257,8 +229,18 @@ int checkIndexRange(const std::string& fileName, const WellRange& well,
                std::string(" Index has ") + toText(decimalsOf(ends.lastText)) +
                " decimals while STEP has " + toText(decimalsOf(stepDigits)) + " decimals";
 
+  // Group 4's pass may already have walked the increments of this very data.
   IncrementResult increments;
-  switch (analyseIncrements(fileName, linesPerRecord, increments)) {
+  int answer = 0;
+  const DataScan* kept = keptScan(fileName, firstDataLinePosition(fileName));
+  if (kept != nullptr && kept->linesPerRecord == linesPerRecord &&
+      kept->delimiter == dataDelimiterChar()) {
+    answer = kept->incrementAnswer;
+    increments = kept->increments;
+  } else {
+    answer = analyseIncrements(fileName, linesPerRecord, increments);
+  }
+  switch (answer) {
     case STEP_CONSTANT:
       if (stepZero)
         slots[4] =

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "cert2/data_scan.h"
 #include "checks/check_table.h"
 #include "las/header_line.h"
 
@@ -46,19 +47,8 @@ inline constexpr int INDEX_NO_DATA = 2;
 // INDEX_NO_DATA (no data line) or INDEX_FAULT (the file cannot be read).
 int readIndexEnds(const std::string& fileName, const std::string& wrapValue, IndexEnds& ends);
 
-// Increment analysis of the index channel.
-inline constexpr int STEP_CONSTANT = 1;
-inline constexpr int STEP_VARIES = 2;
-inline constexpr int STEP_UNREADABLE = 3;    // the file could not be read
-inline constexpr int STEP_UNANALYSABLE = 4;  // fewer than two records, or an index not a number
-struct IncrementResult {
-  double increment = 0;   // the last increment read (the one that broke the pattern, if any)
-  double index = 0;       // index value (rounded to five decimals) where it was read
-  std::string indexText;  // that index as written
-};
-// Walks the records of the data section (`linesPerRecord` physical lines each, comment and blank
-// lines passed over) up to the end of the file or a title line, comparing each increment of the
-// index, rounded to five decimals, with the first one in single precision.
+// Increment analysis of the index channel (answers and result in cert2/data_scan.h): walks the
+// records of the data section up to the end of the file or a title line.
 int analyseIncrements(const std::string& fileName, int linesPerRecord, IncrementResult& result);
 
 // Removes every leading and trailing `c` ("0.1500" with '0' gives ".15").

@@ -2,7 +2,9 @@
 
 #include <cstring>
 
+#include "cert2/ascii_checks.h"
 #include "cert2/data_lines.h"
+#include "cert2/data_scan.h"
 #include "las/line_reader.h"
 #include "las/text.h"
 #include "las/v3_line.h"
@@ -30,18 +32,41 @@ bool hasTab(std::string_view line) {
   return std::memchr(line.data(), '\t', line.size()) != nullptr;
 }
 
-// Data lines: only data belongs there, and no tabs unless tabs delimit the values.
-void judgeDataLines(LineReader& file, bool tabDelimited, Slots& slots) {
+// The walks of groups 6 and 7, fed from this pass so that they need not read the data again.
+struct DataWalks {
+  IncrementWalk increments;
+  RecordWalk records;
+  bool incrementsOn = true;
+  bool recordsOn = true;
+};
+
+// Data lines: only data belongs there, and no tabs unless tabs delimit the values. The walks may
+// need lines past the title that ends the data; the reading then goes back to where this check's
+// own reading stopped, since the next header section's turn starts there.
+void judgeDataLines(LineReader& file, bool tabDelimited, Slots& slots, DataWalks* walks) {
+  std::int64_t resume = 0;  // set once the title line after the data has been read
   std::string_view line;
   while (file.readLine(line)) {
-    std::string_view t = trimView(line);
-    if (!t.empty() && t[0] == '~') break;
-    if (t.empty())
-      addFinding(slots[5], "Blank Line in ~Ascii Section", line);
-    else if (t[0] == '#')
-      addFinding(slots[5], "Comment Line in ~Ascii Section", line);
-    if (!tabDelimited && hasTab(line)) addFinding(slots[5], "Tab character(s) found.", line);
+    if (resume == 0) {
+      std::string_view t = trimView(line);
+      if (!t.empty() && t[0] == '~') {
+        resume = file.position();
+      } else {
+        if (t.empty())
+          addFinding(slots[5], "Blank Line in ~Ascii Section", line);
+        else if (t[0] == '#')
+          addFinding(slots[5], "Comment Line in ~Ascii Section", line);
+        if (!tabDelimited && hasTab(line)) addFinding(slots[5], "Tab character(s) found.", line);
+      }
+    }
+    if (walks != nullptr) {
+      if (walks->incrementsOn) walks->incrementsOn = walks->increments.feed(line);
+      if (walks->recordsOn)
+        walks->recordsOn = walks->records.feed(line, file.lineStart(), file.lineLength());
+    }
+    if (resume != 0 && (walks == nullptr || (!walks->incrementsOn && !walks->recordsOn))) break;
   }
+  if (resume != 0) file.seek(resume);
 }
 
 void judgeHeaderLine(std::string_view line, bool tabDelimited, Slots& slots) {
@@ -94,23 +119,66 @@ std::string wrapMessage(int structure, const std::string& wrapValue) {
   return {};
 }
 
+// The one data section whose walks groups 6 and 7 would make (several data sections, or one
+// group 6 would not find by its name, are left to their own reading); null when none.
+const SectionEntry* walkedDataSection(const std::string& fileName) {
+  const SectionEntry* data = nullptr;
+  for (const SectionEntry& section : runState().sectionIndex) {
+    if (section.role != ROLE_DATA) continue;
+    if (data != nullptr) return nullptr;
+    data = &section;
+  }
+  if (data == nullptr || data->start != firstDataLinePosition(fileName)) return nullptr;
+  return data;
+}
+
 }  // namespace
 
 int checkLineSyntax(const std::string& fileName, const std::string& wrapValue,
                     const ParamTable& curveTable, Slots& slots, int& linesPerRecord,
                     int& channels) {
   for (int k = 1; k <= 7; ++k) slots[k].clear();
+  RunState& state = runState();
+  state.dataScan = {};
+  char delimiter = dataDelimiterChar();
+  bool tabDelimited = delimiter == '\t';
+
+  int perRecord = 0;
+  int bufferLength = 0;
+  int perRecordChannels = 0;
+  int structure =
+      analyseWrap(fileName, perRecord, bufferLength, perRecordChannels, curveTable.lastEntry());
   linesPerRecord = 1;
   channels = 0;
-  RunState& state = runState();
-  bool tabDelimited = dataDelimiterChar() == '\t';
+  if (structure == WRAP_UNWRAPPED || structure == WRAP_WRAPPED) {
+    linesPerRecord = perRecord;
+    channels = perRecordChannels;
+  }
 
   LineReader file;
   if (!file.open(fileName)) return CHECK_FAULT;
+  const SectionEntry* walked = walkedDataSection(fileName);
   for (const SectionEntry& section : state.sectionIndex) {
     if (section.role == ROLE_DATA) {
       file.seek(section.start);
-      judgeDataLines(file, tabDelimited, slots);
+      if (&section != walked) {
+        judgeDataLines(file, tabDelimited, slots, nullptr);
+        continue;
+      }
+      std::string definitionName;
+      RecordRules rules =
+          asciiRecordRules(wrapValue, linesPerRecord,
+                           dataChannelDefinitions(fileName, section, curveTable, definitionName));
+      DataWalks walks{IncrementWalk(perRecord, delimiter), RecordWalk(rules)};
+      judgeDataLines(file, tabDelimited, slots, &walks);
+      DataScan scan;
+      stampScan(scan, fileName, section.start);
+      scan.delimiter = delimiter;
+      scan.linesPerRecord = perRecord;
+      scan.rules = rules;
+      scan.incrementAnswer = walks.increments.finish(scan.increments);
+      walks.records.finish(fileName, scan.countFinding, scan.lengthFinding);
+      state.dataScan = std::move(scan);
     } else if (section.role != ROLE_OTHER) {
       judgeHeaderLines(file, tabDelimited, slots);
     }
@@ -120,17 +188,7 @@ int checkLineSyntax(const std::string& fileName, const std::string& wrapValue,
 
   if (noDataAt(firstDataLinePosition(fileName), length))
     slots[6] = "No data lines in ASCII section";
-
-  int perRecord = 0;
-  int bufferLength = 0;
-  int perRecordChannels = 0;
-  int structure =
-      analyseWrap(fileName, perRecord, bufferLength, perRecordChannels, curveTable.lastEntry());
   slots[7] = wrapMessage(structure, wrapValue);
-  if (structure == WRAP_UNWRAPPED || structure == WRAP_WRAPPED) {
-    linesPerRecord = perRecord;
-    channels = perRecordChannels;
-  }
 
   for (int k = 1; k <= 7; ++k)
     if (!slots[k].empty()) return CHECK_FAILED;

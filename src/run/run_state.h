@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "cert2/data_scan.h"
 #include "checks/check_table.h"
 #include "las/section_types.h"
 
@@ -52,6 +53,9 @@ struct RunState {
   bool escapePressed = false;
   bool suppressCancelQuestion = false;
   bool nullStopRepaired = false;
+  // Group 4's single pass over the data lines keeps here what groups 6 and 7 would otherwise
+  // read the whole data again for; they use it only for the same file, unchanged.
+  DataScan dataScan;
   std::string statusLine = "Ready";
   WindowOps* window = nullptr;  // null in batch mode and in tests without a window
 

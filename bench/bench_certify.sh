@@ -1,0 +1,77 @@
+#!/usr/bin/env bash
+# Times batch certification of large LAS 2.0 files next to `wc -l` on the same file (warm cache,
+# median of runs interleaved one zorvik, one wc) and reports the ratio and zorvik's peak memory,
+# for a plain (WRAP NO) and a wrapped (WRAP YES) file of each size.
+#
+#   bench/bench_certify.sh [--sizes "50 500"] [--runs 5] [--dir SCRATCH] [--no-wrap]
+#
+# The files are written by gen_las.py (GEN_LAS, default ../shared/tools/gen_las.py beside the
+# repository, or two levels up from a worktree) with 20 curves and kept in SCRATCH when one is given. A Release build goes to
+# build-release/.
+set -euo pipefail
+
+ROOT="$(cd "$(dirname "$0")/.." && pwd)"
+GEN_LAS="${GEN_LAS:-$ROOT/../shared/tools/gen_las.py}"
+[[ -f "$GEN_LAS" ]] || GEN_LAS="$ROOT/../../shared/tools/gen_las.py"  # from a worktree
+SIZES="50 500"
+RUNS=5
+DIR=""
+KINDS="plain wrap"
+while [[ $# -gt 0 ]]; do
+  case "$1" in
+    --sizes) SIZES="$2"; shift 2 ;;
+    --runs) RUNS="$2"; shift 2 ;;
+    --dir) DIR="$2"; shift 2 ;;
+    --no-wrap) KINDS="plain"; shift ;;
+    *) echo "usage: $0 [--sizes \"50 500\"] [--runs N] [--dir SCRATCH] [--no-wrap]" >&2; exit 2 ;;
+  esac
+done
+
+cmake -S "$ROOT" -B "$ROOT/build-release" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+  -DZORVIK_TESTS=OFF >/dev/null
+ninja -C "$ROOT/build-release" -j2 zorvik >/dev/null
+EXE="$ROOT/build-release/src/zorvik"
+
+if [[ -z "$DIR" ]]; then
+  DIR="$(mktemp -d "${TMPDIR:-/tmp}/zorvik-bench-XXXXXX")"
+  trap 'rm -rf "$DIR"' EXIT
+fi
+mkdir -p "$DIR/config/Zorvik"
+export XDG_CONFIG_HOME="$DIR/config"
+
+seconds() {  # wall-clock seconds of one command, output discarded
+  local start end
+  start=$(date +%s.%N)
+  "$@" >/dev/null 2>&1
+  end=$(date +%s.%N)
+  echo "$end - $start" | bc -l
+}
+median() { sort -g | awk '{v[NR]=$1} END {print (NR % 2) ? v[(NR+1)/2] : (v[NR/2]+v[NR/2+1])/2}'; }
+
+printf '%-22s %10s %10s %8s %10s  %s\n' file "wc -l s" "zorvik s" ratio "peak MiB" verdict
+for MB in $SIZES; do
+  for KIND in $KINDS; do
+    LAS="$DIR/big_${MB}mb_${KIND}.las"
+    FLAGS=()
+    [[ "$KIND" == wrap ]] && FLAGS=(--wrap)
+    [[ -f "$LAS" ]] || python3 "$GEN_LAS" "$LAS" --mb "$MB" --curves 20 "${FLAGS[@]}" >/dev/null 2>&1
+    # Batch mode runs only for a file name the settings store remembers.
+    printf '[Startup]\nlasFile=%s\nwriteLog=0\ndoWrap=0\n' "$LAS" \
+      >"$DIR/config/Zorvik/Zorvik.conf"
+
+    wc -l "$LAS" >/dev/null  # warm the page cache
+    "$EXE" "$LAS" "$DIR/out.log" >/dev/null 2>&1
+    WC=(); ZV=()
+    for ((i = 0; i < RUNS; i++)); do
+      WC+=("$(seconds wc -l "$LAS")")
+      ZV+=("$(seconds "$EXE" "$LAS" "$DIR/out.log")")
+    done
+    WC_MED=$(printf '%s\n' "${WC[@]}" | median)
+    ZV_MED=$(printf '%s\n' "${ZV[@]}" | median)
+    PEAK_KB=$( { /usr/bin/time -v "$EXE" "$LAS" "$DIR/out.log" >/dev/null; } 2>&1 |
+      awk -F: '/Maximum resident set size/ {gsub(/ /, "", $2); print $2}')
+    printf '%-22s %10.3f %10.3f %7.1fx %10.1f  %s\n' "$(basename "$LAS")" "$WC_MED" "$ZV_MED" \
+      "$(echo "$ZV_MED / $WC_MED" | bc -l)" "$(echo "$PEAK_KB / 1024" | bc -l)" \
+      "$(grep -a '^Result:' "$DIR/out.log" | tr -d '\r')"
+  done
+done
