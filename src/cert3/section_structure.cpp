@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <exception>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "cert3/title_lines.h"
@@ -64,15 +66,65 @@ bool containsAnyOf(std::string_view s, std::initializer_list<std::string_view> w
   return false;
 }
 
-void appendOnce(std::string& slot, const std::string& title) {
-  if (!icontains(slot, title)) slot.append(title).append(CRLF);
+// Appends a title and a line break unless the title is listed already. Whole titles are compared
+// (ignoring case), so a title is never hidden by a longer one that contains it.
+void appendOnce(std::string& slot, std::unordered_set<std::string>& listed,
+                const std::string& title) {
+  if (listed.insert(toUpper(title)).second) slot.append(title).append(CRLF);
 }
 
-// -1 when no title equals `text`, else its place in the list.
-int positionOf(const std::vector<Title>& titles, std::string_view text) {
+// Names are compared ignoring case, so upper-cased texts serve as keys. Each rule below compares
+// every title with every other one; keyed counts give the same answers without the square cost,
+// so a file of thousands of sections is judged as quickly as one of ten.
+using Counts = std::unordered_map<std::string, int>;
+
+// Place in the list of the first title of each text.
+std::unordered_map<std::string, int> firstPlaces(const std::vector<Title>& titles) {
+  std::unordered_map<std::string, int> places;
   for (std::size_t i = 0; i < titles.size(); ++i)
-    if (iequals(titles[i].text, text)) return static_cast<int>(i);
-  return -1;
+    places.emplace(toUpper(titles[i].text), static_cast<int>(i));
+  return places;
+}
+
+// -1 when no title equals `text`, else the place of the first that does.
+int positionOf(const std::unordered_map<std::string, int>& places, std::string_view text) {
+  const auto it = places.find(toUpper(text));
+  return it == places.end() ? -1 : it->second;
+}
+
+// Titles sharing a key, each class in list order, the classes in the order their first members
+// are met. `key` gives false for a title that takes no part.
+template <typename Key>
+std::vector<std::vector<std::size_t>> classesOf(const std::vector<Title>& titles, Key key) {
+  std::vector<std::vector<std::size_t>> classes;
+  std::unordered_map<std::string, std::size_t> classOf;
+  for (std::size_t i = 0; i < titles.size(); ++i) {
+    std::string k;
+    if (!key(titles[i], k)) continue;
+    const auto [it, added] = classOf.emplace(std::move(k), classes.size());
+    if (added) classes.emplace_back();
+    classes[it->second].push_back(i);
+  }
+  return classes;
+}
+
+// The second titles of the pairs (i, j), i != j, of one class, in the order in which a walk over
+// every i, and for each over every j, first meets them: the first member of a class meets all
+// the others, and the second member then meets the first.
+std::vector<std::size_t> pairedInWalkOrder(const std::vector<std::vector<std::size_t>>& classes,
+                                           std::size_t count) {
+  std::vector<const std::vector<std::size_t>*> firstOf(count, nullptr), secondOf(count, nullptr);
+  for (const auto& c : classes) {
+    if (c.size() < 2) continue;
+    firstOf[c[0]] = &c;
+    secondOf[c[1]] = &c;
+  }
+  std::vector<std::size_t> order;
+  for (std::size_t i = 0; i < count; ++i) {
+    if (firstOf[i]) order.insert(order.end(), firstOf[i]->begin() + 1, firstOf[i]->end());
+    if (secondOf[i]) order.push_back((*secondOf[i])[0]);
+  }
+  return order;
 }
 
 void minimumSections2(const std::vector<Title>& titles, std::string& slot) {
@@ -92,19 +144,16 @@ void minimumSections2(const std::vector<Title>& titles, std::string& slot) {
   if (!slot.empty()) slot.insert(0, " sections missing are : ");
 }
 
-// A _data title and a _Definition title form a set when their suffixes start at the same place,
-// which is how the prefix of the data title is matched against the definition title.
+// A _data title and a _Definition title form a set when their suffixes start at the same place:
+// the data title's prefix is compared with as many of its own characters as stand before
+// "_Definition" in the other title, and the two agree only when the suffixes line up.
 bool hasMatchingSetPair(const std::vector<Title>& titles) {
-  for (std::size_t i = 0; i < titles.size(); ++i) {
-    const std::size_t dataPos = ifind(titles[i].text, "_data");
-    if (dataPos == 0) continue;
-    for (std::size_t j = 0; j < titles.size(); ++j) {
-      if (j == i) continue;
-      const std::size_t defPos = ifind(titles[j].text, "_Definition");
-      if (defPos == 0) continue;
-      if (iequals(left(titles[i].text, defPos - 1), left(titles[i].text, dataPos - 1))) return true;
-    }
-  }
+  std::unordered_set<std::size_t> definitionPlaces;
+  for (const Title& t : titles)
+    if (const std::size_t p = ifind(t.text, "_Definition")) definitionPlaces.insert(p);
+  // One title cannot hold both suffixes at one place, so a match is always a pair of titles.
+  for (const Title& t : titles)
+    if (const std::size_t p = ifind(t.text, "_data"); p && definitionPlaces.count(p)) return true;
   return false;
 }
 
@@ -147,31 +196,34 @@ void firstAndSecond(const std::vector<Title>& titles, std::string& slot) {
 
 // Titles whose index could not be read have no section name; item 2 reports them, and they are
 // kept out of the comparisons by name so that they do not pair up with each other.
-bool sameName(const Title& a, const Title& b) {
-  return !a.name.empty() && iequals(a.name, b.name);
-}
-
+// Two titles of one name are duplicates when both lack an index or carry the same one; a second
+// ~Version or ~Well is a duplicate whatever its index.
 void duplicates3(const std::vector<Title>& titles, std::string& slot) {
   slot.clear();
-  for (std::size_t i = 0; i < titles.size(); ++i) {
-    for (std::size_t j = 0; j < titles.size(); ++j) {
-      if (i == j || !sameName(titles[i], titles[j])) continue;
-      const bool always = isOneOf(titles[i].name, {"Version", "Well"});
-      if (always || titles[i].index == titles[j].index) appendOnce(slot, titles[j].text);
-    }
-  }
+  const auto classes = classesOf(titles, [](const Title& t, std::string& key) {
+    if (t.name.empty()) return false;
+    key = toUpper(t.name);
+    if (!isOneOf(t.name, {"Version", "Well"})) key += "[" + toText(t.index) + "]";
+    return true;
+  });
+  std::unordered_set<std::string> listed;
+  for (std::size_t j : pairedInWalkOrder(classes, titles.size()))
+    appendOnce(slot, listed, titles[j].text);
 }
 
+// Older files tell their sections apart by the first letter of the title.
 void duplicates2(const std::vector<Title>& titles, std::string& slot) {
+  const auto classes = classesOf(titles, [](const Title& t, std::string& key) {
+    if (t.text.empty()) return false;
+    key = std::string(1, toUpperAscii(t.text[0]));
+    return true;
+  });
   std::string list;
-  for (std::size_t i = 0; i < titles.size(); ++i) {
-    for (std::size_t j = 0; j < titles.size(); ++j) {
-      if (i == j || titles[i].text.empty() || titles[j].text.empty()) continue;
-      if (toUpperAscii(titles[i].text[0]) != toUpperAscii(titles[j].text[0])) continue;
-      if (icontains(list, titles[j].text)) continue;
-      if (!list.empty()) list += ", ";
-      list += titles[j].text;
-    }
+  std::unordered_set<std::string> listed;
+  for (std::size_t j : pairedInWalkOrder(classes, titles.size())) {
+    if (!listed.insert(toUpper(titles[j].text)).second) continue;
+    if (!list.empty()) list += ", ";
+    list += titles[j].text;
   }
   slot = list.empty() ? std::string() : "Duplicate section titles : " + list;
 }
@@ -214,24 +266,26 @@ void definitionSuffix(const std::vector<Title>& titles, std::string& slot) {
 
 void definitionExists(const std::vector<Title>& titles, std::string& slot) {
   slot.clear();
-  for (std::size_t i = 0; i < titles.size(); ++i) {
-    if (!icontains(titles[i].association, "_Definition")) continue;
-    bool found = false;
-    for (std::size_t j = 0; j < titles.size() && !found; ++j)
-      found = j != i && iequals(titles[j].text, titles[i].association);
-    if (!found) slot.append(titles[i].text).append(CRLF);
+  Counts texts;
+  for (const Title& t : titles) ++texts[toUpper(t.text)];
+  for (const Title& t : titles) {
+    if (!icontains(t.association, "_Definition")) continue;
+    const auto it = texts.find(toUpper(t.association));
+    const int all = it == texts.end() ? 0 : it->second;
+    if (all - (iequals(t.text, t.association) ? 1 : 0) == 0) slot.append(t.text).append(CRLF);
   }
 }
 
 void definitionHasData(const std::vector<Title>& titles, std::string& slot) {
   slot.clear();
-  for (std::size_t i = 0; i < titles.size(); ++i) {
-    if (!icontains(titles[i].text, "_Definition")) continue;
-    bool found = false;
-    for (std::size_t j = 0; j < titles.size() && !found; ++j)
-      found = j != i && titles[j].role == ROLE_DATA &&
-              iequals(baseName(titles[j].text), baseName(titles[i].text));
-    if (!found) slot.append(titles[i].text).append(CRLF);
+  Counts dataBases;
+  for (const Title& t : titles)
+    if (t.role == ROLE_DATA) ++dataBases[toUpper(baseName(t.text))];
+  for (const Title& t : titles) {
+    if (!icontains(t.text, "_Definition")) continue;
+    const auto it = dataBases.find(toUpper(baseName(t.text)));
+    const int all = it == dataBases.end() ? 0 : it->second;
+    if (all - (t.role == ROLE_DATA ? 1 : 0) == 0) slot.append(t.text).append(CRLF);
   }
 }
 
@@ -253,6 +307,7 @@ void noAssociationOnHeaders(const std::vector<Title>& titles, std::string& slot)
 
 void setOrder(const std::vector<Title>& titles, std::string& slot) {
   slot.clear();
+  const auto places = firstPlaces(titles);
   for (std::size_t k = 0; k < titles.size(); ++k) {
     const Title& data = titles[k];
     if (data.role != ROLE_DATA) continue;
@@ -263,8 +318,8 @@ void setOrder(const std::vector<Title>& titles, std::string& slot) {
       definition = "Curve";
       parameter = "Parameter";
     }
-    const int defPos = positionOf(titles, definition);
-    const int paramPos = positionOf(titles, parameter);
+    const int defPos = positionOf(places, definition);
+    const int paramPos = positionOf(places, parameter);
     const int dataPos = static_cast<int>(k);
     if (defPos == -1) {
       slot.append("Missing ").append(definition).append(CRLF);
@@ -292,29 +347,20 @@ void noIndexOnFixedSections(const std::vector<Title>& titles, std::string& slot)
 // which it is met. `member` selects the titles that take part.
 template <typename Pred>
 std::vector<std::vector<std::size_t>> groupsByName(const std::vector<Title>& titles, Pred member) {
-  std::vector<std::vector<std::size_t>> groups;
-  std::vector<bool> taken(titles.size(), false);
-  for (std::size_t i = 0; i < titles.size(); ++i) {
-    if (taken[i] || !member(titles[i]) || titles[i].name.empty()) continue;
-    std::vector<std::size_t> group{i};
-    taken[i] = true;
-    for (std::size_t j = i + 1; j < titles.size(); ++j) {
-      if (!taken[j] && member(titles[j]) && sameName(titles[i], titles[j])) {
-        group.push_back(j);
-        taken[j] = true;
-      }
-    }
-    groups.push_back(std::move(group));
-  }
-  return groups;
+  return classesOf(titles, [&member](const Title& t, std::string& key) {
+    if (!member(t) || t.name.empty()) return false;
+    key = toUpper(t.name);
+    return true;
+  });
 }
 
 void identicalTitlesIndexed(const std::vector<Title>& titles, std::string& slot) {
   slot.clear();
+  std::unordered_set<std::string> listed;
   for (const auto& group : groupsByName(titles, [](const Title&) { return true; })) {
     if (group.size() < 2) continue;
     for (std::size_t i : group)
-      if (titles[i].index == -1) appendOnce(slot, titles[i].text);
+      if (titles[i].index == -1) appendOnce(slot, listed, titles[i].text);
   }
 }
 
