@@ -51,23 +51,6 @@ TEST(Catalogue, VersionThreeTitlesCarryTheCurrentFileTexts) {
   resetRunState();
 }
 
-TEST(Catalogue, LayoutLeavesResultsAlone) {
-  resetRunState();
-  runState().table2.at(2, COL_RESULT, 3) = "finding";
-  layOutCatalogue();
-  EXPECT_EQ(runState().table2.at(2, COL_RESULT, 3), "finding");
-  resetRunState();
-}
-
-TEST(Catalogue, StoreWritesRowsOneToFifteen) {
-  CheckTable table(7);
-  Slots slots;
-  for (int k = 0; k <= 15; ++k) slots[k] = "text " + std::to_string(k);
-  storeGroupResults(table, 4, slots);
-  EXPECT_EQ(table.at(0, COL_RESULT, 4), "");  // the heading cell is not a result
-  for (int k = 1; k <= 15; ++k) EXPECT_EQ(table.at(k, COL_RESULT, 4), slots[k]);
-}
-
 TEST(Catalogue, AnyFailureLooksAtResultCellsOfGroupsOneOn) {
   struct Row {
     int row, column, group;

@@ -128,14 +128,6 @@ TEST(FileLevelChecks, ShortNamesAreIllegal) {
   EXPECT_EQ(fiveStatus, RUN_COMPLETED);
 }
 
-TEST(FileLevelChecks, FolderReadsAsHidden) {
-  ScratchDir dir;
-  Slots results;
-  EXPECT_EQ(fileLevelChecks(dir.path(), results), RUN_STOPPED);
-  EXPECT_EQ(results[FILE_ACCESS], "File exists, but has Hidden Attribute");
-  EXPECT_EQ(results[FILE_EXISTS], "");
-}
-
 TEST(FileLevelChecks, UnreadableFileIsAnAccessFault) {
   if (::geteuid() == 0) GTEST_SKIP() << "permissions do not bind the super-user";
   ScratchDir dir;

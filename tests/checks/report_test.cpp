@@ -85,28 +85,6 @@ TEST(Report, FailureEndsTheReportAfterItsGroup) {
   resetRunState();
 }
 
-TEST(Report, GroupOneFailuresOfAnUnusableFile) {
-  layOut(NO_VERSION, false);
-  runState().table2.at(1, COL_RESULT, 1) = "File does not exist or is not accessible";
-  runState().table2.at(5, COL_RESULT, 1) = " ";
-  const std::string expected = "LAS Certification Result for: /logs/well.las\r\n" + kVersionLine +
-                               "\r\n"
-                               "Result: LAS file FAILS Certification\r\n"
-                               "\r\n"
-                               "\r\n"
-                               "01: File Naming, Availability, Termination and Size\r\n"
-                               "Failed: a. File exists\r\n"
-                               "Errors: File does not exist or is not accessible\r\n"
-                               "        b. File has more than 0 bytes\r\n"
-                               "        c. File can be accessed. Locked by any other program??\r\n"
-                               "        d. File is correctly PC Windows (CR LF) terminated\r\n"
-                               "Failed: e. File has pure ASCII structure\r\n"
-                               "Errors:  \r\n"
-                               "        f. File extension is .LAS\r\n";
-  EXPECT_EQ(buildReport(reportTable(), kDate), expected);
-  resetRunState();
-}
-
 TEST(Report, VerdictNamesOnlyKnownVersionsOfFailingFiles) {
   struct Row {
     float version;
@@ -144,16 +122,6 @@ TEST(Report, UntitledRowsAreNotListedButStillFailTheFile) {
   EXPECT_EQ(report.find("Failed:"), std::string::npos);
   EXPECT_EQ(report.find("line too long"), std::string::npos);
   EXPECT_NE(report.find("        c. ASCII section is final ~ section\r\n"), std::string::npos);
-  resetRunState();
-}
-
-TEST(Report, GroupsWithoutHeadingAreSkipped) {
-  layOut(2.0f, false);
-  runState().table2.at(0, COL_RESULT, 3).clear();
-  std::string report = buildReport(reportTable(), kDate);
-  EXPECT_EQ(report.find("03: "), std::string::npos);
-  EXPECT_EQ(report.find("No duplicate section titles"), std::string::npos);
-  EXPECT_NE(report.find("04: Line Structure and Syntax Checks\r\n"), std::string::npos);
   resetRunState();
 }
 

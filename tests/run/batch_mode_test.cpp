@@ -96,43 +96,7 @@ TEST_P(BatchRun, WritesItsReportAndCommandLogEntries) {
 INSTANTIATE_TEST_SUITE_P(Rows, BatchRun, ::testing::ValuesIn(kBatchCases),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST(BatchRun, UnknownVersionReplacesAnEarlierLogFile) {
-  RunSandbox sandbox;
-  runState().batchMode = true;
-  runState().lasFile = sandbox.dir().write("v25.las", kGood25);
-  runState().logFile = sandbox.dir().write("out.log", "left from an earlier run");
-  doBatchMode();
-  // No report is written for a file no driver takes, and the old one stays.
-  EXPECT_EQ(readBytes(runState().logFile), "left from an earlier run");
-  EXPECT_EQ(runState().lasVersion, 2.5f);
-}
-
 // The whole program, started as a process: these runs go through start-up as well.
-TEST(BatchProgram, UnusableFilesGetTheirGroupOneReport) {
-  struct Row {
-    const char* fixture;
-    const char* resultLine;
-    const char* failedRow;
-  };
-  const Row rows[] = {
-      {"empty.las", "Result: LAS file FAILS Certification",
-       "Failed: b. File has more than 0 bytes"},
-      {"lf_only.las", "Result: LAS file FAILS Certification",
-       "Failed: d. File is correctly PC Windows (CR LF) terminated\r\n"
-       "Errors: Unix Line Feed (ASCII 10) terminated \r\n"},
-      {"nul_head.las", "Result: LAS file FAILS Certification",
-       "Failed: e. File has pure ASCII structure\r\nErrors:  \r\n"},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.fixture);
-    testing::BatchResult run = testing::certifyInBatch(kData + row.fixture);
-    ASSERT_TRUE(run.reportWritten) << run.commandLog;
-    EXPECT_NE(run.report.find(row.resultLine), std::string::npos) << run.report;
-    EXPECT_NE(run.report.find(row.failedRow), std::string::npos) << run.report;
-    EXPECT_EQ(run.report.find("02: "), std::string::npos);
-  }
-}
-
 TEST(BatchProgram, ExampleFilePasses) {
   testing::BatchResult run =
       testing::certifyInBatch(std::string(ZORVIK_EXAMPLES) + "/example_20.las");

@@ -93,13 +93,6 @@ TEST(InteractiveRun, UnusableFileShowsGroupOneAndWritesTheLogWhenAsked) {
   }
 }
 
-TEST(InteractiveRun, UnusableFileKeepsTheVersionOfTheRunBefore) {
-  WindowRun run("missing.las");
-  runState().lasVersion = 3.0f;
-  runInteractive();
-  EXPECT_EQ(run.window.calls.at(3), "grid 3.0");
-}
-
 TEST(InteractiveRun, CancelWhenTheVersionIsNotFound) {
   WindowRun run("nov.las", &kNoVers);
   run.window.okCancelAnswer = false;
@@ -151,25 +144,6 @@ TEST(InteractiveRun, NoQuestionsWhileTheBatchFlagIsSet) {
     EXPECT_NE(call.rfind("critical", 0), 0u) << call;
   }
   EXPECT_EQ(run.window.calls.at(2), "prepare 2");
-}
-
-TEST(InteractiveRun, ExampleFilePassesAndFillsTheGrid) {
-  std::string bytes = readBytes(std::string(ZORVIK_EXAMPLES) + "/example_20.las");
-  WindowRun run("example_20.las", &bytes);
-  runInteractive();
-  const std::vector<std::string>& calls = run.window.calls;
-  ASSERT_GE(calls.size(), 3u);
-  EXPECT_EQ(calls[calls.size() - 3], "enable");
-  EXPECT_EQ(calls[calls.size() - 2], "grid 1.2/2.0");
-  EXPECT_EQ(verdictLine(reportTable()), "Result: LAS file PASSED Ver 2 Certification");
-}
-
-TEST(InteractiveRun, RunsWithoutAWindowToo) {
-  RunSandbox sandbox;
-  runState().lasFile = sandbox.dir().file("missing.las");
-  runInteractive();
-  EXPECT_EQ(runState().statusLine, "Ready");
-  EXPECT_EQ(runState().table2.at(1, COL_RESULT, 1), "File does not exist or is not accessible");
 }
 
 TEST(CertifyWork, RemembersTheFileAndDropsAStaleLog) {

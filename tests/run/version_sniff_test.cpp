@@ -51,15 +51,5 @@ TEST_P(VersionSniff, TakesTheFirstWellFormedVersLineBeforeTheData) {
 INSTANTIATE_TEST_SUITE_P(Rows, VersionSniff, ::testing::ValuesIn(kSniffCases),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST(VersionSniffFile, MissingHiddenOrFolderGivesZero) {
-  ScratchDir dir;
-  dir.write(".hidden.las", "~V\r\n VERS. 2.0 : x\r\n");
-  for (const std::string& name :
-       {dir.file("missing.las"), dir.file(".hidden.las"), dir.path(), std::string()}) {
-    SCOPED_TRACE(name);
-    EXPECT_EQ(sniffVersion(name), 0.0f);
-  }
-}
-
 }  // namespace
 }  // namespace zorvik
