@@ -1,6 +1,7 @@
 #include "run/startup.h"
 
 #include <cstdio>
+#include <filesystem>
 #include <string>
 
 #include "las/text.h"
@@ -43,6 +44,14 @@ bool hasWrapOption(const std::string& line) {
 
 std::string withoutQuotes(const std::string& word) {
   return trim(replaceAll(word, "\"", ""));
+}
+
+// Equal names (in any letter case), or two names of one file ("./a.las" and "a.las"): the log
+// writer would otherwise empty the LAS file.
+bool sameFile(const std::string& a, const std::string& b) {
+  if (iequals(a, b)) return true;
+  std::error_code ec;
+  return std::filesystem::equivalent(a, b, ec) && !ec;
 }
 
 // Where the steps of start-up go next.
@@ -135,7 +144,7 @@ int startUp(int argc, char** argv) {
       case 16:
         // The writability test empties and deletes its file; never let it touch the LAS file
         // itself (the same-name test below refuses that run anyway).
-        if (!iequals(state.logFile, state.lasFile) && !logFileWritable(state.logFile)) {
+        if (!sameFile(state.logFile, state.lasFile) && !logFileWritable(state.logFile)) {
           writeCommandLog("Error:Log file name, " + state.logFile +
                           " is not a valid file name or could not be opened where indicated. Log "
                           "file was written as LAS filename with .log extension to LAS file path.");
@@ -143,7 +152,7 @@ int startUp(int argc, char** argv) {
         }
         return Next::Step;
       case 17:
-        if (iequals(state.lasFile, state.logFile)) {
+        if (sameFile(state.lasFile, state.logFile)) {
           writeCommandLog(
               "Error: LAS file name and Log file are the same. Log file must be different. No "
               "processing is possible");

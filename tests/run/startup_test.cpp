@@ -75,6 +75,11 @@ const StartUpCase kStartUpCases[] = {
      "Error: LAS file name and Log file are the same. Log file must be different. No processing "
      "is possible\n"
      "Error: VB Error in main: . Error #0\n"},
+    {"SameFileByAnotherName", "{d}/well.las", "{d}/well.las {d}/./well.las",
+     "Command line :{d}/well.las {d}/./well.las\n"
+     "Error: LAS file name and Log file are the same. Log file must be different. No processing "
+     "is possible\n"
+     "Error: VB Error in main: . Error #0\n"},
     {"OneWord", "{d}/well.las", "{d}/well.las",
      "Command line :{d}/well.las\n"
      "Error: VB Error in main: Subscript out of range. Error #9\n"},
