@@ -1,0 +1,35 @@
+// Registers the main window with start-up, which opens it when the command line is empty.
+// Linked into the program itself, so the registration runs before start-up does.
+#include <QApplication>
+#include <cstdio>
+
+#include "run/startup.h"
+#include "ui/main_window.h"
+
+namespace {
+
+// Without a display the toolkit would abort; a note is kinder, and batch mode still works.
+bool displayAvailable() {
+  return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+         !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+         !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+int runWindow(int argc, char** argv) {
+  if (!displayAvailable()) {
+    std::fputs(
+        "zorvik: no display to open the window on; give a LAS file and a log file to "
+        "certify without one\n",
+        stderr);
+    return 0;
+  }
+  QApplication app(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Zorvik"));
+  zorvik::CertifyWindow window;
+  window.show();
+  return QApplication::exec();
+}
+
+const bool registered = (zorvik::setWindowLauncher(runWindow), true);
+
+}  // namespace
