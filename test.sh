@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Installs what is missing, checks the formatting, builds, and runs every test twice: in a normal
-# build and in an AddressSanitizer + UndefinedBehaviorSanitizer build. Safe to run again: both
-# builds are incremental.
+# build (with the window, whose tests run on Qt's offscreen platform) and in an AddressSanitizer +
+# UndefinedBehaviorSanitizer build of the core. Safe to run again: both builds are incremental.
 set -euo pipefail
 cd "$(dirname "$0")"
-gui=${ZORVIK_GUI:-OFF}
+gui=${ZORVIK_GUI:-ON}
 ZORVIK_GUI=$gui ./tools/ensure_deps.sh
 
 if command -v clang-format >/dev/null; then

@@ -3,7 +3,7 @@
 set -euo pipefail
 packages=(cmake ninja-build g++ libgtest-dev libbenchmark-dev pkg-config)
 if [ "${ZORVIK_GUI:-ON}" = "ON" ]; then
-  packages+=(qt6-base-dev xvfb xauth)
+  packages+=(qt6-base-dev xvfb xauth poppler-utils)
 fi
 missing=()
 for p in "${packages[@]}"; do
