@@ -48,7 +48,20 @@ seconds() {  # wall-clock seconds of one command, output discarded
 }
 median() { sort -g | awk '{v[NR]=$1} END {print (NR % 2) ? v[(NR+1)/2] : (v[NR/2]+v[NR/2+1])/2}'; }
 
-printf '%-22s %10s %10s %8s %10s  %s\n' file "wc -l s" "zorvik s" ratio "peak MiB" verdict
+cpu_seconds() {  # CPU seconds of one command: perf's task clock, else /usr/bin/time (10 ms steps)
+  if command -v perf >/dev/null 2>&1; then
+    { perf stat -x, -e task-clock "$@" >/dev/null; } 2>&1 |
+      awk -F, '/task-clock/ {printf "%.4f", $1 / 1000}'
+  else
+    { /usr/bin/time -v "$@" >/dev/null; } 2>&1 |
+      awk -F: '/User time|System time/ {s += $2} END {printf "%.3f", s}'
+  fi
+}
+ratio() { if [[ "$(echo "$2 > 0" | bc -l)" == 1 ]]; then echo "$1 / $2" | bc -l; else echo 0; fi; }
+
+# Wall times are what a user waits; CPU times are what the machine's load cannot inflate.
+printf '%-22s %8s %8s %7s %8s %8s %7s %8s  %s\n' file "wc wall" "zv wall" ratio "wc cpu" \
+  "zv cpu" ratio "peak MiB" verdict
 for MB in $SIZES; do
   for KIND in $KINDS; do
     LAS="$DIR/big_${MB}mb_${KIND}.las"
@@ -70,8 +83,16 @@ for MB in $SIZES; do
     ZV_MED=$(printf '%s\n' "${ZV[@]}" | median)
     PEAK_KB=$( { /usr/bin/time -v "$EXE" "$LAS" "$DIR/out.log" >/dev/null; } 2>&1 |
       awk -F: '/Maximum resident set size/ {gsub(/ /, "", $2); print $2}')
-    printf '%-22s %10.3f %10.3f %7.1fx %10.1f  %s\n' "$(basename "$LAS")" "$WC_MED" "$ZV_MED" \
-      "$(echo "$ZV_MED / $WC_MED" | bc -l)" "$(echo "$PEAK_KB / 1024" | bc -l)" \
-      "$(grep -a '^Result:' "$DIR/out.log" | tr -d '\r')"
+    WC_CPU=(); ZV_CPU=()
+    for ((i = 0; i < RUNS; i++)); do
+      WC_CPU+=("$(cpu_seconds wc -l "$LAS")")
+      ZV_CPU+=("$(cpu_seconds "$EXE" "$LAS" "$DIR/out.log")")
+    done
+    WC_CPU_MED=$(printf '%s\n' "${WC_CPU[@]}" | median)
+    ZV_CPU_MED=$(printf '%s\n' "${ZV_CPU[@]}" | median)
+    printf '%-22s %8.3f %8.3f %6.1fx %8.3f %8.3f %6.1fx %8.1f  %s\n' "$(basename "$LAS")" \
+      "$WC_MED" "$ZV_MED" "$(ratio "$ZV_MED" "$WC_MED")" "$WC_CPU_MED" "$ZV_CPU_MED" \
+      "$(ratio "$ZV_CPU_MED" "$WC_CPU_MED")" "$(echo "$PEAK_KB / 1024" | bc -l)" \
+      "$(grep -a '^Result:' "$DIR/out.log" | tr -d '\r' | sed 's/^Result: //')"
   done
 done

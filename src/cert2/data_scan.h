@@ -44,6 +44,14 @@ class IncrementWalk {
   IncrementResult result_;
 };
 
+// What one pass over a line's bytes tells.
+struct LineBytes {
+  int values = 0;      // values split at runs of blanks
+  bool tilde = false;  // holds a "~"
+  bool tab = false;    // holds a tab
+};
+LineBytes scanLineBytes(std::string_view line);
+
 // What the record walk is asked to judge.
 struct RecordRules {
   bool wrapped = false;  // records of `linesPerRecord` lines, lines up to 78 characters
@@ -59,6 +67,9 @@ class RecordWalk {
   explicit RecordWalk(const RecordRules& rules);
   // Takes the next physical line with its 1-based start and full length; false once done.
   bool feed(std::string_view line, std::int64_t lineStart, std::int64_t lineLength);
+  // The same, for a caller that has scanned the line's bytes already.
+  bool feed(std::string_view line, std::int64_t lineStart, std::int64_t lineLength,
+            const LineBytes& bytes);
   // At the end of the lines: the findings for the value count and the line length ("" when
   // none). The offending record is read again from `fileName` for its text.
   void finish(const std::string& fileName, std::string& countFinding, std::string& lengthFinding);
@@ -104,9 +115,5 @@ void stampScan(DataScan& scan, const std::string& fileName, std::int64_t start);
 // The run's kept scan when it was made of this very file (same size and time) from `start`;
 // null otherwise.
 const DataScan* keptScan(const std::string& fileName, std::int64_t start);
-
-// Values of a line split at runs of blanks; `tilde` is set when the line holds a "~".
-int countBlankSeparated(std::string_view line, bool& tilde);
-int countBlankSeparated(std::string_view line);
 
 }  // namespace zorvik

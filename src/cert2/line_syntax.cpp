@@ -47,6 +47,9 @@ void judgeDataLines(LineReader& file, bool tabDelimited, Slots& slots, DataWalks
   std::int64_t resume = 0;  // set once the title line after the data has been read
   std::string_view line;
   while (file.readLine(line)) {
+    // One look at the bytes serves the record walk and the tab test.
+    bool scanned = walks != nullptr && walks->recordsOn;
+    LineBytes bytes = scanned ? scanLineBytes(line) : LineBytes{};
     if (resume == 0) {
       std::string_view t = trimView(line);
       if (!t.empty() && t[0] == '~') {
@@ -56,13 +59,14 @@ void judgeDataLines(LineReader& file, bool tabDelimited, Slots& slots, DataWalks
           addFinding(slots[5], "Blank Line in ~Ascii Section", line);
         else if (t[0] == '#')
           addFinding(slots[5], "Comment Line in ~Ascii Section", line);
-        if (!tabDelimited && hasTab(line)) addFinding(slots[5], "Tab character(s) found.", line);
+        if (!tabDelimited && (scanned ? bytes.tab : hasTab(line)))
+          addFinding(slots[5], "Tab character(s) found.", line);
       }
     }
     if (walks != nullptr) {
       if (walks->incrementsOn) walks->incrementsOn = walks->increments.feed(line);
       if (walks->recordsOn)
-        walks->recordsOn = walks->records.feed(line, file.lineStart(), file.lineLength());
+        walks->recordsOn = walks->records.feed(line, file.lineStart(), file.lineLength(), bytes);
     }
     if (resume != 0 && (walks == nullptr || (!walks->incrementsOn && !walks->recordsOn))) break;
   }

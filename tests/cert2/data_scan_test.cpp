@@ -17,7 +17,7 @@ namespace {
 using testing::crlfLines;
 using testing::writeScratchFile;
 
-TEST(CountBlankSeparated, AgreesWithTheWordCount) {
+TEST(ScanLineBytes, AgreesWithTheWordCount) {
   const std::string rows[] = {"",
                               " ",
                               "1",
@@ -32,16 +32,20 @@ TEST(CountBlankSeparated, AgreesWithTheWordCount) {
                               std::string(300, ' ') + "1 2" + std::string(13, ' ') + "3"};
   for (const std::string& line : rows) {
     SCOPED_TRACE("[" + line + "]");
-    bool tilde = false;
-    EXPECT_EQ(countBlankSeparated(line, tilde), countWords(line, " "));
-    EXPECT_FALSE(tilde);
+    LineBytes bytes = scanLineBytes(line);
+    EXPECT_EQ(bytes.values, countWords(line, " "));
+    EXPECT_FALSE(bytes.tilde);
+    EXPECT_EQ(bytes.tab, line.find('\t') != std::string::npos);
   }
+  // Every byte position of a word and of the tail, for both marks.
   for (std::size_t at = 0; at < 20; ++at) {
     std::string line(20, 'x');
     line[at] = '~';
-    bool tilde = false;
-    countBlankSeparated(line, tilde);
-    EXPECT_TRUE(tilde) << at;
+    EXPECT_TRUE(scanLineBytes(line).tilde) << at;
+    EXPECT_FALSE(scanLineBytes(line).tab) << at;
+    line[at] = '\t';
+    EXPECT_TRUE(scanLineBytes(line).tab) << at;
+    EXPECT_FALSE(scanLineBytes(line).tilde) << at;
   }
 }
 
