@@ -15,8 +15,13 @@ namespace zorvik {
 
 namespace {
 
+// A slot stops taking findings at this size: a data section of hundreds of MB with a fault on
+// every line would otherwise hold the whole file, several times over, in memory and report.
+constexpr std::size_t MAX_SLOT_BYTES = 8 << 20;
+
 // A finding is its words and the offending line, each after a line break.
 void addFinding(std::string& slot, std::string_view words, std::string_view line) {
+  if (slot.size() >= MAX_SLOT_BYTES) return;
   slot += "\r\n";
   slot += words;
   slot += "\r\n";

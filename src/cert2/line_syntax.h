@@ -1,7 +1,8 @@
 // Group 4 of the 1.2/2.0 catalogue: the syntax of every header line, the ~ASCII lines, the
 // presence of data lines and the data structure against the WRAP value.
 //
-// Never throws on bad input; every finding goes into the slots.
+// Never throws on bad input; every finding goes into the slots, up to about 8 MiB of text per
+// slot (a file with a fault on each of millions of lines keeps the first hundred thousand or so).
 #pragma once
 
 #include <string>

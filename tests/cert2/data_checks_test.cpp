@@ -126,6 +126,19 @@ TEST(CheckLineSyntax, FindingsPerSlot) {
   }
 }
 
+TEST(CheckLineSyntax, FindingsOfAHugeBadDataSectionAreCapped) {
+  std::vector<std::string> data = {"~A"};
+  for (int i = 0; i < 300000; ++i) data.push_back(std::to_string(1000 + i) + "\t1");
+  std::string path = prepare(join({kVersion, kWell, kCurve, data}));
+  Slots slots;
+  int linesPerRecord = 0;
+  int channels = 0;
+  checkLineSyntax(path, "NO", curveTable(path), slots, linesPerRecord, channels);
+  EXPECT_EQ(slots[5].rfind("\r\nTab character(s) found.\r\n1000\t1\r\n", 0), 0u);
+  EXPECT_GE(slots[5].size(), 8u << 20);
+  EXPECT_LT(slots[5].size(), (8u << 20) + 100);
+}
+
 TEST(CheckLineSyntax, HandsTheRecordShapeOn) {
   struct Row {
     const char* name;
