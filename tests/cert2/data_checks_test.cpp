@@ -103,12 +103,6 @@ TEST(CheckLineSyntax, FindingsPerSlot) {
        {{7,
          "WRAP value does not match ~ASCII section structure. WRAP =NO while ~ASCII structure "
          "looks like YES"}}},
-      {"WRAP YES with one line per record",
-       join({kVersion, kWell, kCurve, kData}),
-       "yes",
-       {{7,
-         "WRAP value does not match ~ASCII section structure. WRAP =YES while ~ASCII "
-         "structure looks like NO"}}},
       {"a WRAP neither YES nor NO is not compared",
        join({kVersion, kWell, kCurve, kData}),
        "Y",
@@ -185,17 +179,6 @@ TEST(CheckAsciiSection, FindingsPerSlot) {
   };
   const Row rows[] = {
       {.name = "a clean file", .data = kData, .code = CHECK_PASSED},
-      {.name = "first line count differs",
-       .data = kData,
-       .channels = 3,
-       .slots = {{1,
-                  "~Curve has 2 channel descriptions while ~A 1st line has 3 delimited "
-                  "channels. "}}},
-      {.name = "a value missing at one depth",
-       .data = {"~A", "1000.0 10", "1000.5", "1001.0 12"},
-       .slots = {{2,
-                  "Space delimited column count differs from ~Curve channel count. Expected: "
-                  "2. Found: 1\r\n1000.5"}}},
       {.name = "a long unwrapped line is judged only on request",
        .data = {"~A", "1000.0 10", longLine},
        .code = CHECK_PASSED},
@@ -227,10 +210,6 @@ TEST(CheckAsciiSection, FindingsPerSlot) {
        .slots = {{2,
                   "Space delimited column count differs from ~Curve channel count. Expected: "
                   "3. Found: 2\r\n1000.5  3"}}},
-      {.name = "a section after the data",
-       .data = kData,
-       .after = {"~Other information", "free text"},
-       .slots = {{3, "~ASCII section is not last section in the file. ~Other was."}}},
       {.name = "no data lines is a fault", .data = {"~A"}, .code = CHECK_FAULT},
   };
   for (const Row& row : rows) {
