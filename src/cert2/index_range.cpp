@@ -1,6 +1,8 @@
 #include "cert2/index_range.h"
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "cert2/data_lines.h"
 #include "las/line_reader.h"
@@ -94,7 +96,8 @@ std::string_view trimChar(std::string_view s, char c) {
   return s;
 }
 
-int readIndexEnds(const std::string& fileName, const std::string& wrapValue, IndexEnds& ends) {
+int readIndexEnds(const std::string& fileName, const std::string& wrapValue, IndexEnds& ends,
+                  int linesPerRecord) {
   ends = {};
   LineReader file;
   if (!file.open(fileName)) return INDEX_FAULT;
@@ -120,14 +123,25 @@ int readIndexEnds(const std::string& fileName, const std::string& wrapValue, Ind
   }
 
   bool wrapped = !iequals(trimView(wrapValue), "NO");
+  // The last record's lines (wrapped data): a record whose last line holds a single value would
+  // otherwise pass that value off as the index.
+  std::vector<std::string> recordLines(wrapped ? std::max(1, linesPerRecord) : 1);
+  std::size_t counted = 0;
   std::string last;
   while (file.readLine(line)) {
     std::string_view t = trimView(line);
     if (isTitle(t)) break;
     if (t.empty() || t[0] == '#') continue;
-    // In a wrapped record the index stands alone on the record's first line.
-    if (wrapped && t.find(delimiter) != std::string_view::npos) continue;
-    last.assign(wrapped ? t : leadingField(t, delimiter));
+    if (!wrapped) {
+      last.assign(leadingField(t, delimiter));
+      continue;
+    }
+    recordLines[counted++ % recordLines.size()].assign(t);
+    if (t.find(delimiter) == std::string_view::npos) last.assign(t);
+  }
+  if (wrapped && counted >= recordLines.size()) {
+    const std::string& recordFirst = recordLines[counted % recordLines.size()];
+    if (recordFirst.find(delimiter) == std::string::npos) last = recordFirst;
   }
   ends.lastText = last;
   ends.last = roundTo5(leadingNumber(last));
@@ -185,7 +199,8 @@ int checkIndexRange(const std::string& fileName, const WellRange& well,
   int channels = 0;
   analyseWrap(fileName, linesPerRecord, bufferLength, channels, curveTable.lastEntry());
   IndexEnds ends;
-  if (readIndexEnds(fileName, wrapValue, ends) == INDEX_FAULT) return evaluate(slots);
+  if (readIndexEnds(fileName, wrapValue, ends, linesPerRecord) == INDEX_FAULT)
+    return evaluate(slots);
 
   slots[2].clear();
   if (roundTo5(strt.number) != ends.first)

@@ -42,10 +42,12 @@ inline constexpr int INDEX_FAULT = 0;
 inline constexpr int INDEX_READ = -1;
 inline constexpr int INDEX_NO_DATA = 2;
 // Reads the first index from the first data line and the last one from at most the final
-// 100000 bytes of the data. With WRAP other than NO the last index is the last line holding no
-// delimiter (the index stands alone on the first line of a wrapped record). INDEX_READ,
-// INDEX_NO_DATA (no data line) or INDEX_FAULT (the file cannot be read).
-int readIndexEnds(const std::string& fileName, const std::string& wrapValue, IndexEnds& ends);
+// 100000 bytes of the data. With WRAP other than NO the index stands alone on the first line of a
+// record: the last index is the first of the last `linesPerRecord` data lines when that line holds
+// no delimiter, else the last line holding none. INDEX_READ, INDEX_NO_DATA (no data line) or
+// INDEX_FAULT (the file cannot be read).
+int readIndexEnds(const std::string& fileName, const std::string& wrapValue, IndexEnds& ends,
+                  int linesPerRecord = 0);
 
 // Increment analysis of the index channel (answers and result in cert2/data_scan.h): walks the
 // records of the data section up to the end of the file or a title line.

@@ -49,58 +49,46 @@ TEST(ReadIndexEnds, FirstAndLastIndex) {
   struct Row {
     const char* name;
     std::vector<std::string> data;
-    std::string wrap;
-    int code;
-    std::string firstText;
-    std::string lastText;
-    double first;
-    double last;
+    std::string wrap = "NO";
+    int linesPerRecord = 1;
+    int code = INDEX_READ;
+    std::string firstText = "1000.0";
+    std::string lastText = "1000.5";
   };
   const Row rows[] = {
-      {"plain",
-       {" 1000.0  10", "1000.5 11", "1001.0 12"},
-       "NO",
-       INDEX_READ,
-       "1000.0",
-       "1001.0",
-       1000.0,
-       1001.0},
-      {"comments and blanks around the data",
-       {"# first", "", "1000.000001 10", "1000.5 11", "# trailing", "  "},
-       "NO",
-       INDEX_READ,
-       "1000.000001",
-       "1000.5",
-       1000.0,
-       1000.5},
-      {"wrapped: the last line holding the index alone",
-       {"1000.0", "10 11", "1000.5", "12 13"},
-       "YES",
-       INDEX_READ,
-       "1000.0",
-       "1000.5",
-       1000.0,
-       1000.5},
-      {"rounded to five decimals",
-       {"1000.123456 1", "1000.654321 1"},
-       "NO",
-       INDEX_READ,
-       "1000.123456",
-       "1000.654321",
-       1000.12346,
-       1000.65432},
-      {"no data line", {}, "NO", INDEX_NO_DATA, "", "", 0, 0},
+      {.name = "plain", .data = {" 1000.0  10", "1000.25 11", "1000.5 12"}},
+      {.name = "comments and blanks around the data",
+       .data = {"# first", "", "1000.0 10", "1000.5 11", "# trailing", "  "}},
+      {.name = "wrapped: the last line holding the index alone",
+       .data = {"1000.0", "10 11", "1000.5", "12 13"},
+       .wrap = "YES",
+       .linesPerRecord = 2},
+      {.name = "wrapped: a record ending in a single value",
+       .data = {"1000.0", "10 11", "12", "1000.5", "13 14", "15"},
+       .wrap = "YES",
+       .linesPerRecord = 3},
+      {.name = "wrapped, record length unknown: the last line holding no delimiter",
+       .data = {"1000.0", "10 11", "1000.5", "12 13"},
+       .wrap = "YES",
+       .linesPerRecord = 0},
+      {.name = "no data line", .data = {}, .code = INDEX_NO_DATA, .firstText = "", .lastText = ""},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     std::string path = prepare("index_ends.las", lasText({}, row.data, row.wrap));
     IndexEnds ends;
-    EXPECT_EQ(readIndexEnds(path, row.wrap, ends), row.code);
+    EXPECT_EQ(readIndexEnds(path, row.wrap, ends, row.linesPerRecord), row.code);
     EXPECT_EQ(ends.firstText, row.firstText);
     EXPECT_EQ(ends.lastText, row.lastText);
-    EXPECT_DOUBLE_EQ(ends.first, row.first);
-    EXPECT_DOUBLE_EQ(ends.last, row.last);
+    EXPECT_EQ(ends.first, row.code == INDEX_READ ? 1000.0 : 0.0);
+    EXPECT_EQ(ends.last, row.code == INDEX_READ ? 1000.5 : 0.0);
   }
+  // Values are those of the "0.00000" text.
+  std::string path = prepare("index_ends.las", lasText({}, {"1000.123456 1", "1000.654321 1"}));
+  IndexEnds ends;
+  ASSERT_EQ(readIndexEnds(path, "NO", ends), INDEX_READ);
+  EXPECT_EQ(ends.first, 1000.12346);
+  EXPECT_EQ(ends.last, 1000.65432);
 }
 
 TEST(ReadIndexEnds, ReadsOnlyTheTailOfALargeDataSection) {
