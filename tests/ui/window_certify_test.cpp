@@ -59,11 +59,14 @@ TEST_F(WindowTest, OpeningFailingFilesShowsTheFindingsAndWhatWasNotPerformed) {
     int failedCheckRow;
     const char* details;      // of the failed check, as the panel shows it
     const char* findingLine;  // the failed check's first finding line in the grid
+    int undecidedCheckRow;    // a check of the failed group the run left undecided, or -1
+    const char* undecidedDetails;
   };
   const Row rows[] = {
       {"lf_only_20.las", 0, 3, "1d: Unix Line Feed (ASCII 10) terminated ",
-       "Unix Line Feed (ASCII 10) terminated "},
-      {"no_wrap_20.las", 1, 2, "2c: WRAP mnemonic missing. ", "WRAP mnemonic missing. "},
+       "Unix Line Feed (ASCII 10) terminated ", -1, ""},
+      {"no_wrap_20.las", 1, 2, "2c: WRAP mnemonic missing. ", "WRAP mnemonic missing. ", 4,
+       "2e:  Check Not Performed"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.fixture);
@@ -83,6 +86,9 @@ TEST_F(WindowTest, OpeningFailingFilesShowsTheFindingsAndWhatWasNotPerformed) {
     EXPECT_EQ(selectCheck(row.failedGroupRow, row.failedCheckRow), row.details);
     EXPECT_EQ(selectCheck(row.failedGroupRow, 0),
               row.failedGroupRow == 0 ? "1a:  Check OK" : "2a:  Check OK");
+    if (row.undecidedCheckRow >= 0) {
+      EXPECT_EQ(selectCheck(row.failedGroupRow, row.undecidedCheckRow), row.undecidedDetails);
+    }
     // Groups after the failing one were never run.
     for (int g = row.failedGroupRow + 1; g < 7; ++g) {
       SCOPED_TRACE(g);
@@ -127,12 +133,17 @@ TEST_F(WindowTest, RepeatCertificationRunsAgainOnlyWhileTheFileExists) {
 
 TEST_F(WindowTest, EscapeDuringARunAsksAndCancelsOnYes) {
   struct Row {
+    const char* file;
     QMessageBox::StandardButton answer;
     bool tabsEnabled;
     size_t groups;
   };
-  for (const Row& row : {Row{QMessageBox::Yes, false, 0}, Row{QMessageBox::No, true, 7}}) {
-    SCOPED_TRACE(row.answer == QMessageBox::Yes ? "Yes" : "No");
+  const Row rows[] = {{"pass_20.las", QMessageBox::Yes, false, 0},
+                      {"pass_20.las", QMessageBox::No, true, 7},
+                      {ZORVIK_EXAMPLES "/example_30.las", QMessageBox::Yes, false, 0},
+                      {ZORVIK_EXAMPLES "/example_30.las", QMessageBox::No, true, 9}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(std::string(row.file) + (row.answer == QMessageBox::Yes ? " Yes" : " No"));
     desktop.messages.clear();
     desktop.answers = {row.answer};
     window->resultModel()->clear();
@@ -140,7 +151,7 @@ TEST_F(WindowTest, EscapeDuringARunAsksAndCancelsOnYes) {
     // The key waits in the event queue until the driver lets events run between two checks.
     QApplication::postEvent(child<QTreeView>("fg"),
                             new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier));
-    openFile(copyFixture("pass_20.las"));
+    openFile(copyFixture(row.file));
     ASSERT_EQ(desktop.messages.size(), 1u);
     EXPECT_EQ(desktop.messages[0].title, "Please Confirm!");
     EXPECT_EQ(desktop.messages[0].text, "Do you want to cancel the certification in progress?");
