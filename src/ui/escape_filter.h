@@ -1,9 +1,12 @@
 // Sees every key press of the application before the control that has the focus, and turns a
-// press of Escape into the run state's Escape flag, which the check drivers poll between checks.
-// The key still reaches its control.
+// press of Escape in the main window into the run state's Escape flag, which the check drivers
+// poll between checks. The key still reaches its control. Presses in other windows (a message
+// box dismissed with Escape, say) are not the user asking to cancel, and are left alone.
 #pragma once
 
 #include <QObject>
+
+class QWidget;
 
 namespace zorvik {
 
@@ -11,10 +14,13 @@ class EscapeFilter : public QObject {
   Q_OBJECT
 
  public:
-  using QObject::QObject;
+  explicit EscapeFilter(QWidget* window);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QWidget* window_;
 };
 
 }  // namespace zorvik
