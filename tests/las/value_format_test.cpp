@@ -45,7 +45,7 @@ TEST_F(ValueFormat, ValueAgainstFormat) {
       {" ", "12.5", "F10.", 1},
       {" ", "12.5", "f4.1", -1},
       {" ", "x", "", 1},  // an empty format is fixed point
-      // Exponential: the spec is not examined.
+      // Exponential: the width part is not examined.
       {" ", "1E3", "E", -1},
       {" ", "1.5E+03", "E0.00E+00", -1},
       {" ", "1500", "E", 1},
