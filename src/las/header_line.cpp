@@ -11,16 +11,6 @@ namespace zorvik {
 
 namespace {
 
-// 1-based position of the first / last occurrence of a character, 0 when absent.
-std::size_t firstOf(std::string_view s, char c) {
-  std::size_t p = s.find(c);
-  return p == std::string_view::npos ? 0 : p + 1;
-}
-std::size_t lastOf(std::string_view s, char c) {
-  std::size_t p = s.rfind(c);
-  return p == std::string_view::npos ? 0 : p + 1;
-}
-
 // The text strictly between the 1-based positions `from` and `to`.
 std::string_view between(std::string_view s, std::size_t from, std::size_t to) {
   if (to <= from + 1) return {};
@@ -34,8 +24,8 @@ int classifyHeaderLine(std::string_view line) {
   if (t.empty()) return LINE_BLANK;
   if (t[0] == '#') return LINE_COMMENT;
   if (t[0] == '~') return LINE_TITLE;
-  std::size_t d = firstOf(t, '.');
-  std::size_t c = lastOf(t, ':');
+  std::size_t d = firstPos(t, '.');
+  std::size_t c = lastPos(t, ':');
   if (d > 0 && c > 0 && d + 1 < c) {
     // A tab outranks the mnemonic faults: it is what the user has to fix first.
     if (contains(t, '\t')) return LINE_HAS_TAB;
@@ -50,14 +40,14 @@ int delimiterColon(std::string_view line, int& bracePos) {
   std::string format = fieldFormat(line);
   if (format.empty()) {
     bracePos = 0;
-    return static_cast<int>(lastOf(line, ':'));
+    return static_cast<int>(lastPos(line, ':'));
   }
-  std::size_t brace = lastOf(line, '{');
+  std::size_t brace = lastPos(line, '{');
   bracePos = static_cast<int>(brace);
   // A time format ("hh:mm") carries colons of its own; the delimiter is the last one before it.
   if (contains(format, ':') && ifindLast(line, format) > brace)
-    return static_cast<int>(lastOf(left(line, brace - 1), ':'));
-  return static_cast<int>(lastOf(line, ':'));
+    return static_cast<int>(lastPos(left(line, brace - 1), ':'));
+  return static_cast<int>(lastPos(line, ':'));
 }
 
 int delimiterColon(std::string_view line) {
@@ -66,13 +56,13 @@ int delimiterColon(std::string_view line) {
 }
 
 std::string fieldMnemonic(std::string_view line) {
-  std::size_t d = firstOf(line, '.');
+  std::size_t d = firstPos(line, '.');
   return d == 0 ? std::string() : trim(left(line, d - 1));
 }
 
 std::string fieldUnit(std::string_view line) {
-  std::size_t d = firstOf(line, '.');
-  std::size_t c = lastOf(line, ':');
+  std::size_t d = firstPos(line, '.');
+  std::size_t c = lastPos(line, ':');
   if (d == 0 || c == 0 || d >= c) return {};
   std::string_view r = between(line, d, c);
   // A blank right after the period means the line has no unit.
@@ -84,7 +74,7 @@ std::string fieldUnit(std::string_view line) {
 std::string fieldValue(std::string_view line) {
   if (classifyHeaderLine(line) != LINE_OK) return {};
   std::size_t c = static_cast<std::size_t>(delimiterColon(line));
-  std::size_t d = firstOf(line, '.');
+  std::size_t d = firstPos(line, '.');
   std::string_view r = between(line, d, c);
   if (r.empty()) return {};
   if (r[0] == ' ') return trim(r);
@@ -105,8 +95,8 @@ std::string fieldDescription(std::string_view line) {
 }
 
 std::string fieldFormat(std::string_view line) {
-  std::size_t o = firstOf(line, '{');
-  std::size_t e = firstOf(line, '}');
+  std::size_t o = firstPos(line, '{');
+  std::size_t e = firstPos(line, '}');
   if (o == 0 || e == 0 || o > e || e - o < 2) return {};
   std::string_view f = trimView(between(line, o, e));
   if (std::size_t p = f.find(';'); p != std::string_view::npos) f = f.substr(0, p);
@@ -117,7 +107,7 @@ std::string fieldFormat(std::string_view line) {
 
 std::string fieldAssociation(std::string_view line, std::vector<std::string>& parts) {
   parts.assign(1, std::string());
-  std::size_t bar = lastOf(line, '|');
+  std::size_t bar = lastPos(line, '|');
   if (bar == 0) return {};
   std::string a = trim(line.substr(bar));
   const std::string& delimiter = runState().dataDelimiter;
@@ -126,7 +116,7 @@ std::string fieldAssociation(std::string_view line, std::vector<std::string>& pa
 }
 
 std::string fieldAssociation(std::string_view line) {
-  std::size_t bar = lastOf(line, '|');
+  std::size_t bar = lastPos(line, '|');
   return bar == 0 ? std::string() : trim(line.substr(bar));
 }
 
@@ -135,8 +125,8 @@ bool isValidMnemonic(std::string_view text) {
   if (t.empty()) return false;
   if (!isVersion3()) return t.find_first_of(" .:") == std::string_view::npos;
   if (t.find_first_of(", \t.:{}|;") != std::string_view::npos) return false;
-  std::size_t open = firstOf(t, '[');
-  std::size_t close = firstOf(t, ']');
+  std::size_t open = firstPos(t, '[');
+  std::size_t close = firstPos(t, ']');
   if (open == 0 && close == 0) return true;
   if (open == 0 || close == 0) return false;
   // An array element: "NAME[3]", the index an unsigned integer closing the mnemonic.
@@ -183,7 +173,7 @@ int parseSectionTable(const std::string& fileName, ParamTable& table,
   std::erase(text, '\n');
   // Compared with each line's own period position: a line without a colon of its own still
   // counts when the section's last colon lies further right than its period.
-  std::size_t lastColon = lastOf(text, ':');
+  std::size_t lastColon = lastPos(text, ':');
   const bool keepTabs = runState().dataDelimiter == "\t";
   std::string validList;
   std::string line;
@@ -194,7 +184,7 @@ int parseSectionTable(const std::string& fileName, ParamTable& table,
     line.assign(text, start, end - start);
     start = end + 1;
     if (!keepTabs) std::replace(line.begin(), line.end(), '\t', ' ');
-    std::size_t d = firstOf(line, '.');
+    std::size_t d = firstPos(line, '.');
     if (d < 2 || lastColon <= d) continue;
     std::string_view t = trimView(line);
     if (t.empty() || t[0] == '#') continue;

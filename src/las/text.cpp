@@ -83,6 +83,16 @@ std::size_t findLastPos(std::string_view s, std::string_view what) {
   return p == std::string_view::npos ? 0 : p + 1;
 }
 
+std::size_t firstPos(std::string_view s, char c) {
+  std::size_t p = s.find(c);
+  return p == std::string_view::npos ? 0 : p + 1;
+}
+
+std::size_t lastPos(std::string_view s, char c) {
+  std::size_t p = s.rfind(c);
+  return p == std::string_view::npos ? 0 : p + 1;
+}
+
 bool contains(std::string_view s, std::string_view what) {
   return s.find(what) != std::string_view::npos;
 }

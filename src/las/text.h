@@ -33,6 +33,9 @@ bool icontains(std::string_view s, std::string_view what);
 // Exact (case-sensitive) searches, 1-based; 0 when not found.
 std::size_t findPos(std::string_view s, std::string_view what, std::size_t from = 1);
 std::size_t findLastPos(std::string_view s, std::string_view what);
+// 1-based position of the first / last occurrence of a character; 0 when absent.
+std::size_t firstPos(std::string_view s, char c);
+std::size_t lastPos(std::string_view s, char c);
 bool contains(std::string_view s, std::string_view what);
 bool contains(std::string_view s, char c);
 

@@ -10,16 +10,6 @@ namespace zorvik {
 
 namespace {
 
-// 1-based position of the first / last occurrence of a character, 0 when absent.
-std::size_t firstOf(std::string_view s, char c) {
-  std::size_t p = s.find(c);
-  return p == std::string_view::npos ? 0 : p + 1;
-}
-std::size_t lastOf(std::string_view s, char c) {
-  std::size_t p = s.rfind(c);
-  return p == std::string_view::npos ? 0 : p + 1;
-}
-
 bool holdsAny(std::string_view s, std::string_view chars) {
   return s.find_first_of(chars) != std::string_view::npos;
 }
@@ -43,11 +33,11 @@ int parseDataLine(std::string_view t, V3LineDiagnostics& d) {
 // earlier ones, so the slot keeps the last fault found.
 void checkFormatPart(std::string_view line, int role, V3LineDiagnostics& d) {
   std::size_t c = static_cast<std::size_t>(delimiterColon(line));
-  std::size_t firstBar = firstOf(line, '|');
-  std::size_t lastBar = lastOf(line, '|');
+  std::size_t firstBar = firstPos(line, '|');
+  std::size_t lastBar = lastPos(line, '|');
   if (firstBar != 0) {
     if (firstBar > c && contains(line, '}') &&
-        (firstBar < firstOf(line, '}') || firstBar < firstOf(line, '{')))
+        (firstBar < firstPos(line, '}') || firstBar < firstPos(line, '{')))
       d[SLOT_BAR] = V3_MSG_BAR_BEFORE_FORMAT;
     if (firstBar <= c) d[SLOT_BAR] = V3_MSG_BAR_BEFORE_COLON;
   }
@@ -55,8 +45,8 @@ void checkFormatPart(std::string_view line, int role, V3LineDiagnostics& d) {
   // The format part: after the delimiting colon, up to a bar that follows it.
   std::string_view p = line.substr(c);
   if (lastBar > c) p = line.substr(c, lastBar - c - 1);
-  std::size_t openFirst = firstOf(p, '{'), openLast = lastOf(p, '{');
-  std::size_t closeFirst = firstOf(p, '}'), closeLast = lastOf(p, '}');
+  std::size_t openFirst = firstPos(p, '{'), openLast = lastPos(p, '{');
+  std::size_t closeFirst = firstPos(p, '}'), closeLast = lastPos(p, '}');
   bool hasOpen = openFirst != 0, hasClose = closeFirst != 0;
 
   if (openFirst != openLast || closeFirst != closeLast) d[SLOT_BRACE] = V3_MSG_MANY_BRACES;
@@ -80,7 +70,7 @@ void checkFormatPart(std::string_view line, int role, V3LineDiagnostics& d) {
   }
   if (hasOpen != hasClose) d[SLOT_BRACE] = V3_MSG_MISSING_BRACE;
   if (hasOpen && hasClose && openLast > closeLast) d[SLOT_BRACE] = V3_MSG_BRACE_ORDER;
-  if (firstBar != 0 && (lastOf(line, '{') > firstBar || lastOf(line, '}') > firstBar))
+  if (firstBar != 0 && (lastPos(line, '{') > firstBar || lastPos(line, '}') > firstBar))
     d[SLOT_BRACE] = V3_MSG_BRACE_AFTER_BAR;
 }
 
@@ -142,8 +132,8 @@ int parseV3Line(std::string_view line, std::string& currentSection, V3LineDiagno
     return V3_BAD;
   }
 
-  std::size_t period = firstOf(t, '.');
-  std::size_t colon = firstOf(t, ':');
+  std::size_t period = firstPos(t, '.');
+  std::size_t colon = firstPos(t, ':');
   if (period == 0 || colon == 0) {
     d[SLOT_LINE_TYPE] = V3_MSG_UNKNOWN_LINE;
     return V3_BAD;

@@ -2,12 +2,11 @@
 
 #include "cert2/certify2.h"
 #include "cert3/certify3.h"
-#include "checks/catalogue.h"
-#include "checks/file_checks.h"
 #include "checks/report.h"
 #include "las/text.h"
 #include "run/command_log.h"
 #include "run/fault.h"
+#include "run/run_start.h"
 #include "run/run_state.h"
 #include "run/version_sniff.h"
 
@@ -21,20 +20,14 @@ void writeHandlerEntry(const Fault& fault) {
 
 void certify() {
   RunState& state = runState();
-  state.table3.clear();
-  state.table2.clear();
-  layOutCatalogue();
-
   Slots group1;
-  int fileStatus = fileLevelChecks(state.lasFile, group1);
-  for (int row = 1; row <= state.table2.lastRow(); ++row) state.table2.at(row, COL_MARK, 1) = " ";
+  int fileStatus = beginRun(group1);
 
   int status = RUN_FAULT;
   if (fileStatus == RUN_STOPPED) {
     // An unusable file still gets its report; the run then goes on to the version sniff, which
     // fails and leaves its own entries in the command log.
-    storeGroupResults(state.table3, 1, group1);
-    storeGroupResults(state.table2, 1, group1);
+    storeFileResults(group1);
     status = writeLogFile(state.logFile, "", "");
   }
 

@@ -4,10 +4,9 @@
 
 #include "cert2/certify2.h"
 #include "cert3/certify3.h"
-#include "checks/catalogue.h"
-#include "checks/file_checks.h"
 #include "checks/report.h"
 #include "run/file_helpers.h"
+#include "run/run_start.h"
 #include "run/run_state.h"
 #include "run/settings.h"
 #include "run/version_sniff.h"
@@ -58,19 +57,13 @@ void certify() {
   if (state.window != nullptr) state.window->setTitle("Zorvik (" + state.lasFile + ")");
   setStatus("Checking in Progress...");
 
-  state.table3.clear();
-  state.table2.clear();
-  layOutCatalogue();
-
   Slots group1;
-  int fileStatus = fileLevelChecks(state.lasFile, group1);
-  for (int row = 1; row <= state.table2.lastRow(); ++row) state.table2.at(row, COL_MARK, 1) = " ";
+  int fileStatus = beginRun(group1);
 
   int status = RUN_COMPLETED;
   if (fileStatus == RUN_STOPPED) {
     // Only group 1 is filled; a usable file's tables belong to the version driver.
-    storeGroupResults(state.table3, 1, group1);
-    storeGroupResults(state.table2, 1, group1);
+    storeFileResults(group1);
   } else {
     status = dispatch(state);
   }

@@ -11,16 +11,6 @@
 namespace zorvik {
 namespace {
 
-// The first line names the scratch copy of the file; keep only its file name.
-std::string withoutFolder(std::string report) {
-  const std::string head = "LAS Certification Result for: ";
-  if (report.rfind(head, 0) != 0) return report;
-  std::size_t lineEnd = report.find("\r\n");
-  std::size_t slash = report.rfind('/', lineEnd);
-  if (slash == std::string::npos || slash < head.size()) return report;
-  return head + "<folder>/" + report.substr(slash + 1);
-}
-
 struct ReportCase {
   std::string fixture;  // name under tests/data/cert2, without ".las"
   bool wrapChecks;
@@ -75,7 +65,7 @@ TEST(DataGroupReports, MatchGoldenReports) {
     SCOPED_TRACE(golden);
     testing::BatchResult run = testing::certifyInBatch(kData + c.fixture + ".las", c.wrapChecks);
     ASSERT_TRUE(run.reportWritten) << run.commandLog;
-    const std::string report = withoutFolder(run.report);
+    const std::string report = testing::reportWithoutFolder(run.report);
     EXPECT_NE(report.find(c.mustHold), std::string::npos) << report;
     EXPECT_EQ(testing::compareWithGolden(report, kData + "golden/" + golden), "");
   }

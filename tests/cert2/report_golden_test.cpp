@@ -10,16 +10,6 @@
 namespace zorvik {
 namespace {
 
-// The first line names the scratch copy of the file; keep only its file name.
-std::string withoutFolder(std::string report) {
-  const std::string head = "LAS Certification Result for: ";
-  if (report.rfind(head, 0) != 0) return report;
-  std::size_t lineEnd = report.find("\r\n");
-  std::size_t slash = report.rfind('/', lineEnd);
-  if (slash == std::string::npos || slash < head.size()) return report;
-  return head + "<folder>/" + report.substr(slash + 1);
-}
-
 struct ReportCase {
   std::string las;     // path of the LAS file
   std::string golden;  // file name under tests/data/cert2/golden
@@ -76,7 +66,7 @@ TEST(Cert2Reports, MatchGoldenReports) {
     SCOPED_TRACE(c.golden);
     testing::BatchResult run = testing::certifyInBatch(c.las, c.wrapChecks);
     ASSERT_TRUE(run.reportWritten) << run.commandLog;
-    const std::string report = withoutFolder(run.report);
+    const std::string report = testing::reportWithoutFolder(run.report);
     EXPECT_NE(report.find(c.resultLine), std::string::npos) << report;
     EXPECT_EQ(testing::compareWithGolden(report, kData + "golden/" + c.golden), "");
   }

@@ -24,15 +24,6 @@ struct GoldenRow {
 const char* const PASSED = "Result: LAS file PASSED Ver 3 Certification";
 const char* const FAILS = "Result: LAS file FAILS Ver 3 Certification";
 
-// The first line names the scratch copy of the file; keep only its file name.
-std::string withoutFolder(const std::string& report) {
-  const std::string head = "LAS Certification Result for: ";
-  if (report.rfind(head, 0) != 0) return report;
-  const std::size_t slash = report.rfind('/', report.find("\r\n"));
-  if (slash == std::string::npos || slash < head.size()) return report;
-  return head + "<folder>/" + report.substr(slash + 1);
-}
-
 GoldenRow fixture(const std::string& name, const char* verdict = FAILS) {
   return {DATA + name + ".las", name + ".log", verdict};
 }
@@ -86,7 +77,8 @@ TEST(DriverGolden, ReportsMatch) {
     const testing::BatchResult result = certifyInBatch(row.lasPath);
     ASSERT_TRUE(result.reportWritten) << result.commandLog;
     EXPECT_NE(result.report.find(std::string(row.verdict) + "\r\n"), std::string::npos);
-    EXPECT_EQ(compareWithGolden(withoutFolder(result.report), GOLDEN + row.golden), "");
+    EXPECT_EQ(compareWithGolden(testing::reportWithoutFolder(result.report), GOLDEN + row.golden),
+              "");
     EXPECT_EQ(result.commandLog.find("Error"), std::string::npos) << result.commandLog;
   }
 }

@@ -14,16 +14,6 @@ const std::string kData = std::string(ZORVIK_TEST_DATA) + "/cert3/";
 const std::string kPassed = "Result: LAS file PASSED Ver 3 Certification";
 const std::string kFails = "Result: LAS file FAILS Ver 3 Certification";
 
-// The first line names the scratch copy of the file; keep only its file name.
-std::string withoutFolder(const std::string& report) {
-  const std::string head = "LAS Certification Result for: ";
-  if (report.rfind(head, 0) != 0) return report;
-  std::size_t lineEnd = report.find("\r\n");
-  std::size_t slash = report.rfind('/', lineEnd);
-  if (slash == std::string::npos || slash < head.size()) return report;
-  return head + "<folder>/" + report.substr(slash + 1);
-}
-
 struct ReportCase {
   std::string fixture;  // name under tests/data/cert3, without ".las"
   std::string failed;   // the report line of the failing row; "" for a passing file
@@ -76,7 +66,7 @@ TEST(LineDataReports, MatchGoldenReports) {
     SCOPED_TRACE(c.fixture);
     testing::BatchResult run = testing::certifyInBatch(kData + c.fixture + ".las");
     ASSERT_TRUE(run.reportWritten) << run.commandLog;
-    const std::string report = withoutFolder(run.report);
+    const std::string report = testing::reportWithoutFolder(run.report);
     if (c.failed.empty()) {
       EXPECT_NE(report.find(kPassed), std::string::npos) << report;
       EXPECT_NE(report.find("09: Array Channel Checks"), std::string::npos) << report;

@@ -153,4 +153,12 @@ std::string compareWithGolden(const std::string& actual, const std::string& gold
   }
 }
 
+std::string reportWithoutFolder(const std::string& report) {
+  const std::string head = "LAS Certification Result for: ";
+  if (report.rfind(head, 0) != 0) return report;
+  const std::size_t slash = report.rfind('/', report.find("\r\n"));
+  if (slash == std::string::npos || slash < head.size()) return report;
+  return head + "<folder>/" + report.substr(slash + 1);
+}
+
 }  // namespace zorvik::testing

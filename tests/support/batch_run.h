@@ -18,6 +18,10 @@ struct BatchResult {
 // `zorvik <copy> <copy-folder>/out.log [/W]`, the settings store remembering the copy's name.
 BatchResult certifyInBatch(const std::string& lasPath, bool wrapChecks = false);
 
+// The report with the folder of the LAS file on its first line replaced by "<folder>/", so that
+// goldens do not depend on the scratch folder a run used.
+std::string reportWithoutFolder(const std::string& report);
+
 // Reads a whole file as bytes ("" when missing).
 std::string readBytes(const std::string& path);
 
