@@ -79,6 +79,8 @@ void certify() {
     }
   } else if (status == RUN_STOPPED) {
     enableTabs(false);
+    // The user's cancel request has been served; the next run must not ask again at once.
+    state.escapePressed = false;
   } else if (windowShown()) {
     state.window->showCritical("Error!",
                                "Error occured while processing the LAS file. No certification "

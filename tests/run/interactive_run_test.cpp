@@ -34,7 +34,8 @@ class FakeWindow : public WindowOps {
   void fillResultGrid(const CheckTable& table) override {
     calls.push_back(&table == &runState().table3 ? "grid 3.0" : "grid 1.2/2.0");
   }
-  bool askYesNo(const std::string&, const std::string&) override { return false; }
+  bool yesNoAnswer = false;
+  bool askYesNo(const std::string&, const std::string&) override { return yesNoAnswer; }
   bool askOkCancel(const std::string& title, const std::string& text) override {
     calls.push_back("okcancel " + title + "|" + text);
     return okCancelAnswer;
@@ -102,6 +103,18 @@ TEST(InteractiveRun, CancelWhenTheVersionIsNotFound) {
                                           kErrorBox, "status Ready"};
   EXPECT_EQ(run.window.calls, expected);
   EXPECT_EQ(runState().lasVersion, 2.0f);
+}
+
+TEST(InteractiveRun, ConfirmedCancelDisablesTheTabsAndServesTheEscapePress) {
+  const std::string bytes = versionFile("2.0");
+  WindowRun run("cancel.las", &bytes);
+  run.window.yesNoAnswer = true;
+  runState().escapePressed = true;  // pressed before the run: its first poll sees it
+  runInteractive();
+  const std::vector<std::string>& calls = run.window.calls;
+  ASSERT_GE(calls.size(), 2u);
+  EXPECT_EQ(calls[calls.size() - 2], "disable");
+  EXPECT_FALSE(runState().escapePressed);
 }
 
 TEST(InteractiveRun, VersionDecidesTheTabsAndTheDriver) {
