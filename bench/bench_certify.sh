@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Times batch certification of large LAS 2.0 files next to `wc -l` on the same file (warm cache,
+# Times batch certification of large LAS files next to `wc -l` on the same file (warm cache,
 # median of runs interleaved one zorvik, one wc) and reports the ratio and zorvik's peak memory,
-# for a plain (WRAP NO) and a wrapped (WRAP YES) file of each size.
+# for each size and kind: plain 2.0 (WRAP NO), wrapped 2.0 (WRAP YES), comma-delimited 3.0.
 #
-#   bench/bench_certify.sh [--sizes "50 500"] [--runs 5] [--dir SCRATCH] [--no-wrap]
+#   bench/bench_certify.sh [--sizes "50 500"] [--runs 5] [--dir SCRATCH] [--kinds "plain wrap v3"]
 #
 # The files are written by gen_las.py (GEN_LAS, default ../shared/tools/gen_las.py beside the
 # repository, or two levels up from a worktree) with 20 curves and kept in SCRATCH when one is given. A Release build goes to
@@ -16,14 +16,14 @@ GEN_LAS="${GEN_LAS:-$ROOT/../shared/tools/gen_las.py}"
 SIZES="50 500"
 RUNS=5
 DIR=""
-KINDS="plain wrap"
+KINDS="plain wrap v3"
 while [[ $# -gt 0 ]]; do
   case "$1" in
     --sizes) SIZES="$2"; shift 2 ;;
     --runs) RUNS="$2"; shift 2 ;;
     --dir) DIR="$2"; shift 2 ;;
-    --no-wrap) KINDS="plain"; shift ;;
-    *) echo "usage: $0 [--sizes \"50 500\"] [--runs N] [--dir SCRATCH] [--no-wrap]" >&2; exit 2 ;;
+    --kinds) KINDS="$2"; shift 2 ;;
+    *) echo "usage: $0 [--sizes \"50 500\"] [--runs N] [--dir SCRATCH] [--kinds \"plain wrap v3\"]" >&2; exit 2 ;;
   esac
 done
 
@@ -67,6 +67,7 @@ for MB in $SIZES; do
     LAS="$DIR/big_${MB}mb_${KIND}.las"
     FLAGS=()
     [[ "$KIND" == wrap ]] && FLAGS=(--wrap)
+    [[ "$KIND" == v3 ]] && FLAGS=(--v3)
     [[ -f "$LAS" ]] || python3 "$GEN_LAS" "$LAS" --mb "$MB" --curves 20 "${FLAGS[@]}" >/dev/null 2>&1
     # Batch mode runs only for a file name the settings store remembers.
     printf '[Startup]\nlasFile=%s\nwriteLog=0\ndoWrap=0\n' "$LAS" \
