@@ -4,21 +4,14 @@
 
 #include <QApplication>
 
-namespace {
-
-QtMessageHandler standardHandler = nullptr;
-
-// The offscreen platform warns about every window feature it lacks; those lines are noise here.
-void quietOffscreenWarnings(QtMsgType type, const QMessageLogContext& context,
-                            const QString& text) {
-  if (text.startsWith(QLatin1String("This plugin does not support"))) return;
-  standardHandler(type, context, text);
-}
-
-}  // namespace
-
 int main(int argc, char** argv) {
-  standardHandler = qInstallMessageHandler(quietOffscreenWarnings);
+  // The offscreen platform warns about every window feature it lacks; those lines are noise here.
+  static QtMessageHandler standardHandler = nullptr;
+  standardHandler = qInstallMessageHandler(
+      [](QtMsgType type, const QMessageLogContext& context, const QString& text) {
+        if (!text.startsWith(QLatin1String("This plugin does not support")))
+          standardHandler(type, context, text);
+      });
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication app(argc, argv);
   ::testing::InitGoogleTest(&argc, argv);
