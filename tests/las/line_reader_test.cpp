@@ -3,145 +3,101 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <fstream>
 #include <string>
+#include <tuple>
 #include <vector>
+
+#include "support/scratch_files.h"
 
 namespace zorvik {
 namespace {
 
-std::string writeTemp(const std::string& name, const std::string& bytes) {
-  std::string path = ::testing::TempDir() + "line_reader_" + name;
-  std::ofstream(path, std::ios::binary) << bytes;
-  return path;
-}
+using testing::writeScratchFile;
 
 struct Line {
   std::string text;
-  std::int64_t start;
+  std::int64_t start;          // 1-based
+  std::int64_t cutLength = 0;  // full length of a line cut at the cap
+  bool operator==(const Line&) const = default;
 };
+
+void PrintTo(const Line& line, std::ostream* os) {
+  *os << line.start << ":[" << line.text.substr(0, 20) << "] cut " << line.cutLength;
+}
 
 std::vector<Line> readAll(const std::string& path) {
   std::vector<Line> lines;
   LineReader reader(path);
   std::string line;
-  while (reader.readLine(line)) lines.push_back({line, reader.lineStart()});
+  while (reader.readLine(line)) {
+    const std::int64_t length = reader.lineLength();
+    if (!reader.lineTruncated()) {
+      EXPECT_EQ(length, static_cast<std::int64_t>(line.size()));
+    }
+    lines.push_back({line, reader.lineStart(), reader.lineTruncated() ? length : 0});
+  }
   return lines;
 }
 
 TEST(LineReader, SplitsAtCrLfAndLoneCrOnly) {
-  struct Row {
-    const char* name;
-    std::string bytes;
-    std::vector<Line> lines;
-  };
-  const Row rows[] = {
+  const std::tuple<const char*, std::string, std::vector<Line>> rows[] = {
       {"empty file", "", {}},
       {"crlf", "ab\r\ncd\r\n", {{"ab", 1}, {"cd", 5}}},
       {"lone cr", "ab\rcd\r", {{"ab", 1}, {"cd", 4}}},
       {"lone lf stays inside", "ab\ncd\r\nef", {{"ab\ncd", 1}, {"ef", 8}}},
-      {"no final terminator", "ab\r\ncd", {{"ab", 1}, {"cd", 5}}},
       {"empty lines", "\r\n\r\r\n", {{"", 1}, {"", 3}, {"", 4}}},
       {"lf cr is lf then a lone cr", "a\n\rb", {{"a\n", 1}, {"b", 4}}},
-      {"only lf", "a\nb\n", {{"a\nb\n", 1}}},
       {"binary bytes kept", std::string("a\0\xff\r\n", 5), {{std::string("a\0\xff", 3), 1}}},
   };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
-    std::vector<Line> got = readAll(writeTemp("split", row.bytes));
-    ASSERT_EQ(got.size(), row.lines.size());
-    for (std::size_t i = 0; i < got.size(); ++i) {
-      EXPECT_EQ(got[i].text, row.lines[i].text) << "line " << i;
-      EXPECT_EQ(got[i].start, row.lines[i].start) << "line " << i;
-    }
+  for (const auto& [name, bytes, lines] : rows) {
+    SCOPED_TRACE(name);
+    EXPECT_EQ(readAll(writeScratchFile("split.las", bytes)), lines);
   }
 }
 
 // Lines that cross the buffer's end, including a CR LF split between two reads and lines longer
-// than the buffer, must come back whole and at the right positions.
+// than the buffer, must come back whole and at the right positions; a line over the cap comes
+// back as its head, with its full length, and the reader goes on after it.
 TEST(LineReader, LinesAcrossBufferBoundaries) {
   const std::size_t B = LineReader::BUFFER_BYTES;
-  struct Row {
-    const char* name;
-    std::vector<std::size_t> lengths;  // line lengths, each followed by the terminator
-    const char* terminator;
-  };
-  const Row rows[] = {
+  const std::size_t cap = LineReader::MAX_LINE_BYTES;
+  // Line lengths, each line followed by the terminator.
+  const std::tuple<const char*, std::vector<std::size_t>, const char*> rows[] = {
       {"cr in last byte, lf in next read", {B - 2, 5}, "\r\n"},
       {"lone cr in last byte", {B - 1, 5}, "\r"},
       {"crlf ends exactly at buffer end", {B - 2, 3, 4}, "\r\n"},
       {"line longer than the buffer", {10, 3 * B + 7, 10}, "\r\n"},
       {"long line with cr at a buffer end", {B, B - 1, 2}, "\r\n"},
+      {"line over the cap", {5, cap + 3 * B + 11, 4}, "\r\n"},
       {"many short lines", std::vector<std::size_t>(40000, 3), "\r\n"},
   };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
+  for (const auto& [name, lengths, terminator] : rows) {
+    SCOPED_TRACE(name);
     std::string bytes;
     std::vector<Line> expected;
-    for (std::size_t i = 0; i < row.lengths.size(); ++i) {
-      std::string text(row.lengths[i], static_cast<char>('a' + i % 26));
-      expected.push_back({text, static_cast<std::int64_t>(bytes.size()) + 1});
-      bytes += text + row.terminator;
+    for (std::size_t i = 0; i < lengths.size(); ++i) {
+      std::string text(lengths[i], static_cast<char>('a' + i % 26));
+      text.back() = '.';  // a lost or kept tail shows
+      const auto length = static_cast<std::int64_t>(text.size());
+      expected.push_back({text.substr(0, cap), static_cast<std::int64_t>(bytes.size()) + 1,
+                          text.size() > cap ? length : 0});
+      bytes += text + terminator;
     }
-    std::string path = writeTemp("boundary", bytes);
-    std::vector<Line> got = readAll(path);
-    ASSERT_EQ(got.size(), expected.size());
-    for (std::size_t i = 0; i < got.size(); ++i) {
-      EXPECT_EQ(got[i].text, expected[i].text) << "line " << i;
-      EXPECT_EQ(got[i].start, expected[i].start) << "line " << i;
-    }
-    // The view variant sees the same lines.
-    LineReader reader(path);
-    std::string_view view;
-    std::size_t n = 0;
-    while (reader.readLine(view)) {
-      ASSERT_LT(n, expected.size());
-      EXPECT_EQ(view, expected[n].text) << "line " << n;
-      ++n;
-    }
-    EXPECT_EQ(n, expected.size());
+    EXPECT_EQ(readAll(writeScratchFile("boundary.las", bytes)), expected);
   }
 }
 
-TEST(LineReader, OverlongLineIsCappedAndSkipped) {
-  const std::size_t cap = LineReader::MAX_LINE_BYTES;
-  std::string huge(cap + 3 * LineReader::BUFFER_BYTES + 11, 'x');
-  huge[0] = 'h';
-  std::string path = writeTemp("huge", "first\r\n" + huge + "\r\nlast\r\n");
-  LineReader reader(path);
-  std::string line;
-  ASSERT_TRUE(reader.readLine(line));
-  EXPECT_FALSE(reader.lineTruncated());
-  ASSERT_TRUE(reader.readLine(line));
-  EXPECT_EQ(line.size(), cap);
-  EXPECT_EQ(line[0], 'h');
-  EXPECT_TRUE(reader.lineTruncated());
-  EXPECT_EQ(reader.lineLength(), static_cast<std::int64_t>(huge.size()));
-  EXPECT_EQ(reader.lineStart(), 8);
-  ASSERT_TRUE(reader.readLine(line));
-  EXPECT_EQ(line, "last");
-  EXPECT_FALSE(reader.lineTruncated());
-  EXPECT_EQ(reader.lineStart(), static_cast<std::int64_t>(7 + huge.size() + 2 + 1));
-  EXPECT_FALSE(reader.readLine(line));
-}
-
 TEST(LineReader, SeekAndRangeUseOneBasedPositions) {
-  std::string path = writeTemp("seek", "~V\r\nVERS. 2.0 : v\r\n~A\r\n1 2\r\n");
-  LineReader reader(path);
-  ASSERT_TRUE(reader.isOpen());
+  LineReader reader(writeScratchFile("seek.las", "~V\r\nVERS. 2.0 : v\r\n~A\r\n1 2\r\n"));
   EXPECT_EQ(reader.length(), 28);
   std::string line;
-  struct Row {
-    std::int64_t pos;
-    const char* line;
-  };
-  const Row rows[] = {{5, "VERS. 2.0 : v"}, {1, "~V"}, {24, "1 2"},
-                      {-3, "~V"},           {21, "A"}, {23, "\n1 2"}};
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.pos);
-    reader.seek(row.pos);
+  const std::pair<std::int64_t, const char*> rows[] = {
+      {5, "VERS. 2.0 : v"}, {1, "~V"}, {24, "1 2"}, {-3, "~V"}, {21, "A"}, {23, "\n1 2"}};
+  for (const auto& [pos, expected] : rows) {
+    SCOPED_TRACE(pos);
+    reader.seek(pos);
     ASSERT_TRUE(reader.readLine(line));
-    EXPECT_EQ(line, row.line);
+    EXPECT_EQ(line, expected);
   }
   reader.seek(29);
   EXPECT_TRUE(reader.atEnd());
@@ -160,16 +116,16 @@ TEST(LineReader, SeekAndRangeUseOneBasedPositions) {
 }
 
 TEST(LineReader, UnreadableInputsGiveNoLines) {
-  std::string line;
-  LineReader missing(::testing::TempDir() + "no_such_file.las");
-  EXPECT_FALSE(missing.isOpen());
-  EXPECT_FALSE(missing.readLine(line));
-  EXPECT_TRUE(missing.atEnd());
-  LineReader directory(::testing::TempDir());
-  EXPECT_FALSE(directory.isOpen());
-  EXPECT_EQ(fileLength(::testing::TempDir()), -1);
-  EXPECT_EQ(fileLength(::testing::TempDir() + "no_such_file.las"), -1);
-  EXPECT_EQ(fileLength(writeTemp("len", "abc\r\n")), 5);
+  for (const std::string& path :
+       {testing::scratchFolder() + "/missing.las", testing::scratchFolder()}) {
+    SCOPED_TRACE(path);
+    LineReader reader(path);
+    std::string line;
+    EXPECT_FALSE(reader.isOpen());
+    EXPECT_FALSE(reader.readLine(line));
+    EXPECT_TRUE(reader.atEnd());
+    EXPECT_EQ(fileLength(path), -1);
+  }
 }
 
 }  // namespace

@@ -2,13 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <string>
-#include <vector>
+#include <tuple>
 
-#include "las/line_reader.h"
+#include "las/text.h"
 #include "run/run_state.h"
+#include "support/batch_run.h"
+#include "support/scratch_files.h"
 
 namespace zorvik {
 namespace {
@@ -16,22 +16,14 @@ namespace {
 const std::string kV20 = std::string(ZORVIK_TEST_DATA) + "/las/sections_v20.las";
 const std::string kV30 = std::string(ZORVIK_TEST_DATA) + "/las/sections_v30.las";
 
-std::string readBytes(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(in), {});
-}
-
 // 1-based position of the line after the title line `title`.
 std::int64_t startAfter(const std::string& bytes, const std::string& title) {
   return static_cast<std::int64_t>(bytes.find(title + "\r\n") + title.size() + 2 + 1);
 }
 
-// A file of title lines only, joined with CR LF.
-std::string writeTitles(const std::string& name, const std::vector<std::string>& titles) {
-  std::string path = ::testing::TempDir() + "sections_" + name;
-  std::ofstream out(path, std::ios::binary);
-  for (const std::string& t : titles) out << t << "\r\n";
-  return path;
+// A file of title lines only: `titles` separated by ";".
+std::string writeTitles(std::string_view titles) {
+  return testing::writeScratchFile("titles.las", testing::crlfLines(split(titles, ";")));
 }
 
 class Sections : public ::testing::Test {
@@ -40,312 +32,130 @@ class Sections : public ::testing::Test {
   void TearDown() override { resetRunState(); }
 };
 
+// A bar with nothing after it gives a one-blank association, to tell it from no bar at all.
 TEST_F(Sections, TitleLineGivesNameAndAssociation) {
-  struct Row {
-    const char* line;
-    const char* name;
-    const char* association;
-  };
-  const Row rows[] = {
-      {"~Version Information", "Version", ""},
+  const std::tuple<const char*, const char*, const char*> rows[] = {
       {"~A  DEPT   GR", "A", ""},
-      {"~Log_Data | Log_Definition", "Log_Data", "Log_Definition"},
       {"~Log_Data|Log_Definition extra", "Log_Data", "Log_Definition"},
-      {"~Log_Data |", "Log_Data", " "},
       {"~Log_Data |   ", "Log_Data", " "},
       {"   ~ Curve  ", "Curve", ""},
-      {"~", "", ""},
       {"  ~ ", "", ""},
       {"~|x", "", "x"},
-      {"x~A", "", ""},
-      {"", "", ""},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.line);
+      {"x~A", "", ""}};
+  for (const auto& [line, name, expected] : rows) {
+    SCOPED_TRACE(line);
     std::string association = "stale";
-    EXPECT_EQ(parseTitleLine(row.line, association), row.name);
-    EXPECT_EQ(association, row.association);
+    EXPECT_EQ(parseTitleLine(line, association), name);
+    EXPECT_EQ(association, expected);
   }
 }
 
 TEST_F(Sections, ArrayIndexSplitsOffATrailingNumber) {
-  struct Row {
-    const char* name;
-    const char* base;
-    int index;
-  };
-  const Row rows[] = {
-      {"Log_Data[2]", "Log_Data", 2}, {"Log_Data[1]", "Log_Data", 1}, {"Log_Data[]", "Log_Data", 0},
-      {"Log_Data", "Log_Data", -1},   {" Curve Info ", "Curve", -1},  {"Log Data[3]", "Log", 3},
-      {"Log_Data[x]", "", -1},        {"Log_Data[1", "", -1},         {"Log_Data1]", "", -1},
-      {"Log_Data]1[", "", -1},        {"Log_Data[1]x", "", -1},       {"Log_Data[1][2]", "", -1},
-      {"Log_Data[-1]", "", -1},       {"Log_Data[ 1]", "", -1},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
+  const std::tuple<const char*, const char*, int> rows[] = {
+      {"Log_Data[2]", "Log_Data", 2}, {"Log_Data[]", "Log_Data", 0}, {" Curve Info ", "Curve", -1},
+      {"Log Data[3]", "Log", 3},      {"Log_Data[x]", "", -1},       {"Log_Data[1", "", -1},
+      {"Log_Data]1[", "", -1},        {"Log_Data[1]x", "", -1},      {"Log_Data[1][2]", "", -1},
+      {"Log_Data[-1]", "", -1}};
+  for (const auto& [name, base, expected] : rows) {
+    SCOPED_TRACE(name);
     int index = 99;
-    EXPECT_EQ(splitArrayIndex(row.name, index), row.base);
-    EXPECT_EQ(index, row.index);
+    EXPECT_EQ(splitArrayIndex(name, index), base);
+    EXPECT_EQ(index, expected);
   }
 }
 
-TEST_F(Sections, IndexOfAVersion2File) {
-  runState().lasVersion = 2.0f;
-  ASSERT_TRUE(buildSectionIndex(kV20));
-  const std::string bytes = readBytes(kV20);
-  struct Row {
-    const char* title;
-    const char* name;
-    const char* association;
-    int role;
+// The index of a file of titles as "name:role|association" (roles Header, Data, definition as
+// Curve, Parameter, Other). One-letter names have roles only before 3.0, and there the data
+// section belongs to the last section whose name starts with C, or to "Curve" for an ~ASCII
+// section without one; "Well_Data" is data, not a header.
+TEST_F(Sections, IndexOfTitles) {
+  const std::tuple<float, const char*, const char*> rows[] = {
+      {2.0f, "~W;~P;~Well_Data;~Log_parameter;~Tops", "W:H P:P Well_Data:D Log_parameter:P Tops:O"},
+      {3.0f, "~W;~P;~Well_Data;~Log_parameter;~Tops", "W:O P:O Well_Data:D Log_parameter:P Tops:O"},
+      {3.0f, "~A;~C;~Core_Definition", "A:O C:O Core_Definition:C"},
+      {1.2f, "~V;~Curve;~Comments;~A", "V:H Curve:C Comments:O A:D|Comments"},
+      {1.2f, "~A | X;~C", "A:D|C C:C"},
+      {1.2f, "~ASCII", "ASCII:D|Curve"},
+      {1.2f, "~A", "A:D"},
   };
-  const Row rows[] = {
-      {"~Version Information", "Version", "", ROLE_HEADER},
-      {"~Well Information", "Well", "", ROLE_HEADER},
-      {"~CURVE INFORMATION", "CURVE", "", ROLE_DEFINITION},
-      {"~Parameter", "Parameter", "", ROLE_PARAMETER},
-      {"~Other", "Other", "", ROLE_HEADER},
-      // The data section is tied to the curve section by name.
-      {"~A  DEPT   GR   NPHI", "A", "CURVE", ROLE_DATA},
-  };
-  const auto& index = runState().sectionIndex;
-  ASSERT_EQ(index.size(), std::size(rows));
-  for (std::size_t i = 0; i < index.size(); ++i) {
-    SCOPED_TRACE(rows[i].title);
-    EXPECT_EQ(index[i].name, rows[i].name);
-    EXPECT_EQ(index[i].association, rows[i].association);
-    EXPECT_EQ(index[i].start, startAfter(bytes, rows[i].title));
-    EXPECT_EQ(index[i].arrayIndex, -1);
-    EXPECT_EQ(index[i].role, rows[i].role);
-    EXPECT_EQ(index[i].spare, "");
-  }
-  EXPECT_TRUE(runState().sectionGroups.empty());
-}
-
-TEST_F(Sections, RolesOfNamesDependOnVersion3) {
-  struct Row {
-    const char* title;
-    int roleV2;
-    int roleV3;
-  };
-  const Row rows[] = {
-      {"~W", ROLE_HEADER, ROLE_OTHER},
-      {"~V", ROLE_HEADER, ROLE_OTHER},
-      {"~O", ROLE_HEADER, ROLE_OTHER},
-      {"~A", ROLE_DATA, ROLE_OTHER},
-      {"~C", ROLE_DEFINITION, ROLE_OTHER},
-      {"~P", ROLE_PARAMETER, ROLE_OTHER},
-      {"~Well", ROLE_HEADER, ROLE_HEADER},
-      {"~version", ROLE_HEADER, ROLE_HEADER},
-      {"~ASCII", ROLE_DATA, ROLE_DATA},
-      {"~Well_Data", ROLE_DATA, ROLE_DATA},
-      {"~Curve", ROLE_DEFINITION, ROLE_DEFINITION},
-      {"~Core_Definition", ROLE_DEFINITION, ROLE_DEFINITION},
-      {"~Parameter", ROLE_PARAMETER, ROLE_PARAMETER},
-      {"~Log_parameter", ROLE_PARAMETER, ROLE_PARAMETER},
-      {"~Tops", ROLE_OTHER, ROLE_OTHER},
-      {"~Log_Data[3]", ROLE_DATA, ROLE_DATA},
-  };
-  for (float version : {2.0f, 3.0f}) {
+  for (const auto& [version, titles, expected] : rows) {
+    SCOPED_TRACE(titles);
     runState().lasVersion = version;
-    for (const Row& row : rows) {
-      SCOPED_TRACE(std::string(row.title) + (version == 3.0f ? " in 3.0" : " in 2.0"));
-      ASSERT_TRUE(buildSectionIndex(writeTitles("roles", {row.title})));
-      ASSERT_EQ(runState().sectionIndex.size(), 1u);
-      EXPECT_EQ(runState().sectionIndex[0].role, version == 3.0f ? row.roleV3 : row.roleV2);
-      EXPECT_EQ(sectionRoleOf(row.title + 1), version == 3.0f ? row.roleV3 : row.roleV2);
+    ASSERT_TRUE(buildSectionIndex(writeTitles(titles)));
+    std::string index;
+    for (const SectionEntry& e : runState().sectionIndex) {
+      index += (index.empty() ? "" : " ") + e.name + ":" + std::string_view("HDCPO").at(e.role);
+      if (!e.association.empty()) index += "|" + e.association;
     }
-  }
-  EXPECT_EQ(sectionRoleOf("Nothing"), -1);
-}
-
-TEST_F(Sections, DataSectionAssociationInOlderVersions) {
-  struct Row {
-    std::vector<std::string> titles;
-    const char* association;  // of the data section
-  };
-  const Row rows[] = {
-      {{"~V", "~C", "~A"}, "C"},
-      {{"~Curve", "~ASCII"}, "Curve"},
-      {{"~ASCII"}, "Curve"},                        // no curve section: the default partner
-      {{"~Curve", "~Comments", "~A"}, "Comments"},  // the last name starting with C wins
-      {{"~A | X", "~C"}, "C"},
-      {{"~A"}, ""},
-  };
-  runState().lasVersion = 1.2f;
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.titles.back());
-    ASSERT_TRUE(buildSectionIndex(writeTitles("assoc", row.titles)));
-    for (const SectionEntry& e : runState().sectionIndex)
-      if (e.role == ROLE_DATA) {
-        EXPECT_EQ(e.association, row.association);
-      }
+    EXPECT_EQ(index, expected);
   }
 }
 
-TEST_F(Sections, Version3GroupsAndArrays) {
+TEST_F(Sections, Version3Groups) {
   runState().lasVersion = 3.0f;
   ASSERT_TRUE(buildSectionIndex(kV30));
-  const auto& index = runState().sectionIndex;
-  ASSERT_EQ(index.size(), 10u);
-  EXPECT_EQ(index[6].name, "Log_Definition");
-  EXPECT_EQ(index[7].name, "Log_Data[1]");
-  EXPECT_EQ(index[7].arrayIndex, 1);
-  EXPECT_EQ(index[7].association, "Log_Definition");
-  EXPECT_EQ(index[9].name, "Well");
-  EXPECT_EQ(index[4].association, "Tops_Definition");
-
-  struct Row {
-    const char* prefix;
-    int data, definition, parameter;
-  };
-  const Row rows[] = {{"Tops", 5, 4, 3}, {"Log", 9, 7, 6}};  // the later Log_Data[2] wins
-  const auto& groups = runState().sectionGroups;
-  ASSERT_EQ(groups.size(), std::size(rows));
-  for (std::size_t i = 0; i < groups.size(); ++i) {
-    SCOPED_TRACE(rows[i].prefix);
-    EXPECT_EQ(groups[i].prefix, rows[i].prefix);
-    EXPECT_EQ(groups[i].data, rows[i].data);
-    EXPECT_EQ(groups[i].definition, rows[i].definition);
-    EXPECT_EQ(groups[i].parameter, rows[i].parameter);
-  }
+  ASSERT_EQ(runState().sectionIndex.size(), 10u);
+  // Section numbers (1-based) of data, definition and parameter; the later Log_Data[2] wins.
+  using Group = std::tuple<std::string, int, int, int>;
+  std::vector<Group> groups;
+  for (const SectionGroup& g : runState().sectionGroups)
+    groups.emplace_back(g.prefix, g.data, g.definition, g.parameter);
+  EXPECT_EQ(groups, (std::vector<Group>{{"Tops", 5, 4, 3}, {"Log", 9, 7, 6}}));
 }
 
 TEST_F(Sections, LookupsUseTheFirstSectionOfAName) {
   runState().lasVersion = 3.0f;
-  const std::string bytes = readBytes(kV30);
-  struct Row {
-    const char* name;
-    const char* found;
-    std::int64_t start;
-    const char* text;
-  };
-  const Row rows[] = {
+  const std::string bytes = testing::readBytes(kV30);
+  const std::string missing = testing::scratchFolder() + "/missing.las";
+  const std::tuple<const char*, const char*, std::int64_t, const char*> rows[] = {
       {"well", "Well", startAfter(bytes, "~Well"), "STRT.M 1670.0 : START DEPTH\r"},
-      {"Log_Data[2]", "Log_Data[2]", startAfter(bytes, "~Log_Data[2] | Log_Definition"),
-       "1669.0\r"},
-      {"Tops_Definition", "Tops_Definition", startAfter(bytes, "~Tops_Definition"),
-       "TOP.M : top depth\r"},
-      {"Tops", "", 0, ""},
-      {"", "", 0, ""},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
+      {"Tops", "", 0, ""}};
+  for (const auto& [name, foundName, start, text] : rows) {
+    SCOPED_TRACE(name);
     std::string found = "stale";
-    EXPECT_EQ(findSection(kV30, row.name, found), row.start);  // builds the index lazily
-    EXPECT_EQ(found, row.found);
-    EXPECT_EQ(sectionText(kV30, row.name), row.text);
+    EXPECT_EQ(findSection(kV30, name, found), start);  // builds the index lazily
+    EXPECT_EQ(found, foundName);
+    EXPECT_EQ(sectionText(kV30, name), text);
   }
+  // A built index is used as it stands, whatever file is named.
   std::string found;
-  EXPECT_EQ(findSection(::testing::TempDir() + "missing.las", "Well", found),
-            startAfter(bytes, "~Well"));
+  EXPECT_EQ(findSection(missing, "Well", found), startAfter(bytes, "~Well"));
   resetRunState();
-  EXPECT_EQ(findSection(::testing::TempDir() + "missing.las", "Well", found), 0);
-  EXPECT_EQ(sectionText(::testing::TempDir() + "missing.las", "Well"), "");
+  EXPECT_EQ(findSection(missing, "Well", found), 0);
+  EXPECT_EQ(sectionText(missing, "Well"), "");
 }
 
 TEST_F(Sections, SectionTextOfAVersion2File) {
   runState().lasVersion = 2.0f;
-  struct Row {
-    const char* name;
-    std::string text;
-  };
-  const Row rows[] = {
-      {"Parameter",
-       "RUN.  1\r\nMUD .\tGEL : MUD TYPE\r\n\r\nBHT .DEGC   35.5 : BOTTOM HOLE TEMPERATURE\r"},
-      {"Other", "Free text here.\r"},
-      // The last section reads to the end of the file.
-      {"A", "1670.000  45.0  0.27\r\n1669.875  46.0  0.28\r\n1669.750  47.0  0.29\r\n"},
-      {"curve",
-       "DEPT.M        : DEPTH\r\nGR  .GAPI     : GAMMA RAY\r\nNPHI.V/V      : NEUTRON "
-       "POROSITY\r\nDE PT.M       : BAD MNEMONIC\r"},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
-    EXPECT_EQ(sectionText(kV20, row.name), row.text);
-  }
-  // An empty last section has no text.
-  std::string path = writeTitles("empty_last", {"~V", "~A"});
+  EXPECT_EQ(sectionText(kV20, "Parameter"),
+            "RUN.  1\r\nMUD .\tGEL : MUD TYPE\r\n\r\nBHT .DEGC   35.5 : BOTTOM HOLE TEMPERATURE\r");
+  // The last section reads to the end of the file, but an empty one has no text.
+  EXPECT_EQ(sectionText(kV20, "A"),
+            "1670.000  45.0  0.27\r\n1669.875  46.0  0.28\r\n1669.750  47.0  0.29\r\n");
   resetRunState();
-  EXPECT_EQ(sectionText(path, "A"), "");
+  EXPECT_EQ(sectionText(writeTitles("~V;~A"), "A"), "");
 }
 
-TEST_F(Sections, SeekSectionWithAndWithoutIndex) {
-  runState().lasVersion = 2.0f;
-  runState().lasFile = kV20;
-  const std::string bytes = readBytes(kV20);
-  LineReader file(kV20);
-  std::string line;
-
-  // Without an index the file itself is searched; the title's position comes back.
-  std::int64_t title = static_cast<std::int64_t>(bytes.find("~CURVE")) + 1;
-  EXPECT_EQ(seekSection(file, "Curve"), title);
-  ASSERT_TRUE(file.readLine(line));
-  EXPECT_EQ(line, "DEPT.M        : DEPTH");
-  EXPECT_EQ(seekSection(file, "Tops"), 0);
-
-  ASSERT_TRUE(buildSectionIndex(kV20));
-  struct Row {
-    const char* name;
-    std::int64_t pos;
-    const char* firstLine;
-  };
-  const Row rows[] = {
-      {" Parameter ", startAfter(bytes, "~Parameter"), "RUN.  1"},
-      {"A", startAfter(bytes, "~A  DEPT   GR   NPHI"), "1670.000  45.0  0.27"},
-      {"", 0, "~Version Information"},  // an empty name rewinds
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
-    EXPECT_EQ(seekSection(file, row.name), row.pos);
-    ASSERT_TRUE(file.readLine(line));
-    EXPECT_EQ(line, row.firstLine);
-  }
-  EXPECT_EQ(seekSection(file, "Tops"), 0);
-}
-
+// Before 3.0 only data and curve sections make the standard sections found; 3.0 falls back on
+// the Log_ names (the last array element) and has no one-letter names.
 TEST_F(Sections, StandardSectionNames) {
-  struct Row {
-    float version;
-    std::vector<std::string> titles;
-    const char* curve;
-    const char* data;
-    const char* param;
-    bool found;
-  };
-  const Row rows[] = {
-      {2.0f, {"~V", "~W", "~C", "~P", "~A"}, "C", "A", "P", true},
-      {2.0f,
-       {"~Version", "~Well", "~Curve", "~Parameter", "~ASCII"},
-       "Curve",
-       "ASCII",
-       "Parameter",
-       true},
-      {2.0f, {"~V", "~W", "~P"}, "", "", "P", false},  // only data and curve count here
-      {2.0f, {"~Log_Definition", "~Log_Data"}, "", "", "", false},
-      {3.0f,
-       {"~Version", "~Well", "~Log_Parameter", "~Log_Definition", "~Log_Data"},
-       "Log_Definition",
-       "Log_Data",
-       "Log_Parameter",
-       true},
-      {3.0f, {"~Version", "~C", "~A", "~P"}, "", "", "", false},
-      {3.0f, {"~Version", "~Parameter"}, "", "", "Parameter", true},
-      {3.0f, {"~Curve", "~Log_Definition", "~Log_Data[1]", "~ASCII"}, "Curve", "ASCII", "", true},
-      {3.0f, {"~Log_Data[1]", "~Log_Data[2]"}, "", "Log_Data[2]", "", true},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.titles.back());
+  const std::tuple<float, const char*, const char*, const char*, const char*, bool> rows[] = {
+      {2.0f, "~V;~W;~P", "", "", "P", false},
+      {3.0f, "~Version;~C;~A;~P", "", "", "", false},
+      {3.0f, "~Version;~Parameter", "", "", "Parameter", true},
+      {3.0f, "~Curve;~Log_Definition;~Log_Data[1];~ASCII", "Curve", "ASCII", "", true},
+      {3.0f, "~Log_Data[1];~Log_Data[2];~Log_Parameter", "", "Log_Data[2]", "Log_Parameter", true}};
+  for (const auto& [version, titles, curve, data, param, found] : rows) {
+    SCOPED_TRACE(titles);
     resetRunState();
-    runState().lasVersion = row.version;
-    EXPECT_TRUE(locateStandardSections(writeTitles("standard", row.titles)));
-    EXPECT_EQ(runState().curveSectionName, row.curve);
-    EXPECT_EQ(runState().dataSectionName, row.data);
-    EXPECT_EQ(runState().paramSectionName, row.param);
-    EXPECT_EQ(runState().standardSectionsFound, row.found);
+    runState().lasVersion = version;
+    EXPECT_TRUE(locateStandardSections(writeTitles(titles)));
+    EXPECT_EQ(std::tie(runState().curveSectionName, runState().dataSectionName,
+                       runState().paramSectionName, runState().standardSectionsFound),
+              std::make_tuple(std::string(curve), std::string(data), std::string(param), found));
   }
   runState().dataSectionName = "stale";
-  EXPECT_TRUE(locateStandardSections(::testing::TempDir() + "missing.las"));
+  EXPECT_TRUE(locateStandardSections(testing::scratchFolder() + "/missing.las"));
   EXPECT_EQ(runState().dataSectionName, "");
   EXPECT_FALSE(runState().standardSectionsFound);
 }
