@@ -1,228 +1,177 @@
-// The line syntax check (group 4) and the ~ASCII checks (group 7) over small files: which lines
-// each judges, and the first offending record of the data.
+// Groups 4 and 7 where the fixture reports say nothing: which lines are judged, the cap on
+// findings, line length and record boundaries; and group 4's pass feeding groups 6 and 7.
 #include <gtest/gtest.h>
 
-#include <map>
-
 #include "cert2/ascii_checks.h"
+#include "cert2/data_scan.h"
+#include "cert2/las_parts.h"
 #include "cert2/line_syntax.h"
-#include "las/sections.h"
-#include "run/run_state.h"
-#include "support/scratch_files.h"
+#include "las/text.h"
 
 namespace zorvik {
 namespace {
 
-using testing::crlfLines;
-using testing::writeScratchFile;
+using testing::LasParts;
 
-const std::vector<std::string> kVersion = {"~Version Information",
-                                           "VERS.   2.0 : CWLS LOG ASCII STANDARD",
-                                           "WRAP.   NO  : One line per depth step"};
-const std::vector<std::string> kWell = {"~Well Information", "STRT.M   1000.0 : START DEPTH",
-                                        "STOP.M   1000.5 : STOP DEPTH"};
-const std::vector<std::string> kCurve = {"~Curve Information", "DEPT.M   : DEPTH",
-                                         "GR  .GAPI : GAMMA RAY"};
-const std::vector<std::string> kCurve3 = {"~Curve", "DEPT.M : D", "A.  : A", "B.  : B"};
-const std::vector<std::string> kCurve5 = {"~Curve",  "DEPT.M : D", "A.  : A",
-                                          "B.  : B", "C.  : C",    "D.  : D"};
-const std::vector<std::string> kData = {"~A", "1000.0 10", "1000.5 11"};
-
-std::string join(std::initializer_list<std::vector<std::string>> parts) {
-  std::string text;
-  for (const auto& part : parts) text += crlfLines(part);
-  return text;
-}
-
-std::string prepare(const std::string& bytes) {
-  std::string path = writeScratchFile("data_checks.las", bytes);
-  resetRunState();
-  runState().lasVersion = 2.0f;
-  locateStandardSections(path);
-  return path;
-}
-
-ParamTable curveTable(const std::string& path) {
-  ParamTable table;
-  parseSectionTable(path, table, runState().curveSectionName);
-  return table;
-}
-
-void expectSlots(const Slots& slots, int last, const std::map<int, std::string>& expected) {
-  for (int k = 1; k <= last; ++k) {
-    auto it = expected.find(k);
-    EXPECT_EQ(slots[k], it == expected.end() ? "" : it->second) << "slot " << k;
-  }
+int lineSyntax(const LasParts& parts, Slots& slots) {
+  std::string path = testing::prepareLas("data_checks.las", testing::lasBytes(parts));
+  int linesPerRecord = 0;
+  int channels = 0;
+  return checkLineSyntax(path, parts.wrap, testing::sectionTable(path, "Curve"), slots,
+                         linesPerRecord, channels);
 }
 
 TEST(CheckLineSyntax, FindingsPerSlot) {
   // Each section's turn reads the lines after the title where the previous turn stopped, so the
-  // lines of ~Well are judged in ~Curve's turn and those of ~Curve (the last header section
-  // before the data) are never judged.
-  struct Row {
-    const char* name;
-    std::string bytes;
-    std::string wrap;
-    std::map<int, std::string> slots;
+  // lines of ~Curve (the last header section before the data) are never judged.
+  const std::vector<std::string> twoLines = {"1000.0", "1 2 3 4", "1000.5", "1 2 3 4"};
+  const std::vector<std::string> curve5 = testing::curveLines(5);
+  const std::pair<LasParts, std::string> rows[] = {
+      {{.data = {"1000.0 1"}, .curve = {"no delimiters here"}}, ""},
+      {{.data = twoLines, .wrap = "no", .curve = curve5},
+       "7: WRAP value does not match ~ASCII section structure. WRAP =NO while ~ASCII structure "
+       "looks like YES\n"},
+      {{.data = twoLines, .wrap = "Y", .curve = curve5}, ""},  // neither YES nor NO: not compared
   };
-  const Row rows[] = {
-      {"a clean file", join({kVersion, kWell, kCurve, kData}), "NO", {}},
-      {"well line faults",
-       join({kVersion,
-             {"~Well", "STRT.M 1000.0 : START", ".M 1 : no mnemonic", "ST RT.M 1 : spaced",
-              "STOP\t.M 1 : tab", "no delimiters here"},
-             kCurve,
-             kData}),
-       "NO",
-       {{1,
-         "\r\nMissing Mnemonic\r\n.M 1 : no mnemonic\r\nMnemonic has embedded space(s)\r\n"
-         "ST RT.M 1 : spaced"},
-        {5,
-         "\r\nTab characters used on the line: \r\nSTOP<Tab>.M 1 : tab\r\n"
-         "Unknown or undetermined line type\r\nno delimiters here"}}},
-      {"the last header section before the data is not judged",
-       join({kVersion, kWell, {"~Curve", "no delimiters here"}, kData}),
-       "NO",
-       {}},
-      {
-          "data lines: comment, blank, tab",
-          join({kVersion, kWell, kCurve, {"~A", "1000.0 10", "# note", "", "1000.5\t11"}}),
-          "NO",
-          {{5,
-            "\r\nComment Line in ~Ascii Section\r\n# note\r\nBlank Line in ~Ascii Section\r\n"
-            "\r\nTab character(s) found.\r\n1000.5\t11"}},
-      },
-      {"no data lines",
-       join({kVersion, kWell, kCurve, {"~A"}}),
-       "NO",
-       {{6, "No data lines in ASCII section"},
-        {7, "Error determining Wrap structure. Likely missing or extra channels at some depths."}}},
-      {"WRAP NO with records over two lines",
-       join({kVersion, kWell, kCurve5, {"~A", "1000.0", "1 2 3 4", "1000.5", "1 2 3 4"}}),
-       "no",
-       {{7,
-         "WRAP value does not match ~ASCII section structure. WRAP =NO while ~ASCII structure "
-         "looks like YES"}}},
-      {"a WRAP neither YES nor NO is not compared",
-       join({kVersion, kWell, kCurve, kData}),
-       "Y",
-       {}},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
-    std::string path = prepare(row.bytes);
+  for (const auto& [parts, expected] : rows) {
+    SCOPED_TRACE(parts.wrap + " " + parts.curve[0]);
     Slots slots;
-    int linesPerRecord = 0;
-    int channels = 0;
-    int code = checkLineSyntax(path, row.wrap, curveTable(path), slots, linesPerRecord, channels);
-    EXPECT_EQ(code, row.slots.empty() ? CHECK_PASSED : CHECK_FAILED);
-    expectSlots(slots, 7, row.slots);
+    EXPECT_EQ(lineSyntax(parts, slots), expected.empty() ? CHECK_PASSED : CHECK_FAILED);
+    EXPECT_EQ(testing::filledSlots(slots, 7), expected);
   }
 }
 
 TEST(CheckLineSyntax, FindingsOfAHugeBadDataSectionAreCapped) {
-  std::vector<std::string> data = {"~A"};
-  for (int i = 0; i < 300000; ++i) data.push_back(std::to_string(1000 + i) + "\t1");
-  std::string path = prepare(join({kVersion, kWell, kCurve, data}));
+  LasParts parts;
+  for (int i = 0; i < 300000; ++i) parts.data.push_back(std::to_string(1000 + i) + "\t1");
   Slots slots;
-  int linesPerRecord = 0;
-  int channels = 0;
-  checkLineSyntax(path, "NO", curveTable(path), slots, linesPerRecord, channels);
+  lineSyntax(parts, slots);
   EXPECT_EQ(slots[5].rfind("\r\nTab character(s) found.\r\n1000\t1\r\n", 0), 0u);
   EXPECT_GE(slots[5].size(), 8u << 20);
   EXPECT_LT(slots[5].size(), (8u << 20) + 100);
 }
 
-TEST(CheckLineSyntax, HandsTheRecordShapeOn) {
+TEST(CheckAsciiSection, WrappedRecords) {
+  const std::string line79 = std::string(77, '1') + " 2";
   struct Row {
     const char* name;
-    std::vector<std::string> data;
-    int linesPerRecord;
-    int channels;
+    std::vector<std::string> data;  // records of three channels over two lines
+    int code;
+    std::string slots = "";
   };
   const Row rows[] = {
-      {"unwrapped: the first line's values", {"~A", "1000.0 10 20", "1000.5 11 21"}, 1, 3},
-      {"wrapped: the values of the record's lines",
-       {"~A", "1000.0", "10 20", "1000.5", "11 21", "1001.0", "12 22"},
-       2,
-       3},
+      {"78 characters pass",
+       {"1000.0", std::string(76, '1') + " 2", "1000.5", "3 4"},
+       CHECK_PASSED},
+      {"a line of 79 characters",
+       {"1000.0", line79, "1000.5", "3 4"},
+       CHECK_FAILED,
+       "4: Line too long for WRAP YES. Was 79 long. 80 is max.\r\n" + line79 + "\n"},
+      {"a record short of a value shows the joined record",
+       {"1000.0", "1 2", " 1000.5 ", "3 "},
+       CHECK_FAILED,
+       "2: Space delimited column count differs from ~Curve channel count. Expected: 3. Found: "
+       "2\r\n1000.5  3\n"},
+      {"no data lines is a fault", {}, CHECK_FAULT},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
-    std::string path =
-        prepare(join({kVersion,
-                      kWell,
-                      {"~Curve", "DEPT.M : D", "A.  : A", "B.  : B", "C.  : C", "D.  : D"},
-                      row.data}));
+    LasParts parts{.data = row.data, .wrap = "YES", .curve = testing::curveLines(3)};
+    std::string path = testing::prepareLas("ascii_checks.las", testing::lasBytes(parts));
     Slots slots;
-    int linesPerRecord = 0;
-    int channels = 0;
-    checkLineSyntax(path, "NO", curveTable(path), slots, linesPerRecord, channels);
-    EXPECT_EQ(linesPerRecord, row.linesPerRecord);
-    EXPECT_EQ(channels, row.channels);
+    slots.fill(" ");  // the check decides all four rows
+    EXPECT_EQ(checkAsciiSection(path, "YES", 2, 3, testing::sectionTable(path, "Curve"), slots),
+              row.code);
+    EXPECT_EQ(testing::filledSlots(slots, 4), row.slots);
   }
 }
 
-TEST(CheckAsciiSection, FindingsPerSlot) {
-  const std::string longLine = "1000.5 " + std::string(293, '1');  // 300 characters
+TEST(ScanLineBytes, AgreesWithTheWordCount) {
+  std::vector<std::string> lines = {"", "  1000.0488     28.5193  ", "12345678 1234567 9abcdef 1",
+                                    "a b c d e f g h i j k l m n o p q r s t u v w x y z",
+                                    std::string(300, ' ') + "1 2" + std::string(13, ' ') + "3"};
+  for (std::size_t at = 0; at < 20; ++at) {  // every byte position of a word and of the tail
+    for (char mark : {'~', '\t'}) {
+      lines.push_back(std::string(20, 'x'));
+      lines.back()[at] = mark;
+    }
+  }
+  for (const std::string& line : lines) {
+    SCOPED_TRACE("[" + line + "]");
+    LineBytes bytes = scanLineBytes(line);
+    EXPECT_EQ(bytes.values, countWords(line, " "));
+    EXPECT_EQ(bytes.tilde, line.find('~') != std::string::npos);
+    EXPECT_EQ(bytes.tab, line.find('\t') != std::string::npos);
+  }
+}
+
+// Codes and slots of groups 6 and 7 after group 4's pass, its kept answers used or dropped; the
+// line length finding (group 7's slot 4) last.
+std::string dataGroups(const std::string& path, const std::string& wrap, bool keep) {
+  resetRunState();
+  runState().lasVersion = 2.0f;
+  runState().doWrap = true;
+  locateStandardSections(path);
+  ParamTable well = testing::sectionTable(path, "Well");
+  ParamTable curve = testing::sectionTable(path, "Curve");
+  Slots slots4, slots6, slots7;
+  int linesPerRecord = 0;
+  int channels = 0;
+  checkLineSyntax(path, wrap, curve, slots4, linesPerRecord, channels);
+  EXPECT_TRUE(runState().dataScan.valid);
+  if (!keep) runState().dataScan = {};
+  std::string text =
+      toText(checkIndexRange(path, testing::wellRangeOf(well), wrap, well, curve, slots6)) +
+      toText(checkAsciiSection(path, wrap, linesPerRecord, channels, curve, slots7));
+  for (int k = 1; k <= 7; ++k) text += "|" + slots6[k];
+  for (int k = 1; k <= 4; ++k) text += "|" + slots7[k];
+  return text;
+}
+
+TEST(DataScan, GroupsSixAndSevenReportTheSameFromTheKeptPass) {
+  const std::string w80(80, '1');
+  const std::string long300 = "1000.5 " + std::string(300, '2');
   struct Row {
     const char* name;
-    std::vector<std::string> data;
-    std::vector<std::string> curve = kCurve;
-    std::string wrap = "NO";
-    int linesPerRecord = 1;
-    int channels = 2;
-    bool doWrap = false;
-    std::vector<std::string> after = {};
-    int code = CHECK_FAILED;
-    std::map<int, std::string> slots = {};
+    LasParts parts;
+    std::string lengthFinding = "";
   };
   const Row rows[] = {
-      {.name = "a clean file", .data = kData, .code = CHECK_PASSED},
-      {.name = "a long unwrapped line is judged only on request",
-       .data = {"~A", "1000.0 10", longLine},
-       .code = CHECK_PASSED},
-      {.name = "a long unwrapped line with the wrap checks on",
-       .data = {"~A", "1000.0 10", longLine},
-       .doWrap = true,
-       .slots = {{4, "Line too long for WRAP NO. Was 300 long. 256 is max.\r\n" + longLine}}},
-      {.name = "wrapped records of lines up to 78 characters pass",
-       .data = {"~A", "1000.0", std::string(76, '1') + " 2", "1000.5", "3 4"},
-       .curve = kCurve3,
-       .wrap = "YES",
-       .linesPerRecord = 2,
-       .channels = 3,
-       .code = CHECK_PASSED},
-      {.name = "a wrapped line of 79 characters",
-       .data = {"~A", "1000.0", std::string(77, '1') + " 2", "1000.5", "3 4"},
-       .curve = kCurve3,
-       .wrap = "YES",
-       .linesPerRecord = 2,
-       .channels = 3,
-       .slots = {{4, "Line too long for WRAP YES. Was 79 long. 80 is max.\r\n" +
-                         std::string(77, '1') + " 2"}}},
-      {.name = "a wrapped record short of a value shows the joined record",
-       .data = {"~A", "1000.0", "1 2", " 1000.5 ", "3 "},
-       .curve = kCurve3,
-       .wrap = "YES",
-       .linesPerRecord = 2,
-       .channels = 3,
-       .slots = {{2,
-                  "Space delimited column count differs from ~Curve channel count. Expected: "
-                  "3. Found: 2\r\n1000.5  3"}}},
-      {.name = "no data lines is a fault", .data = {"~A"}, .code = CHECK_FAULT},
+      {"short record and broken step", {.data = {"1000.0 1", "1000.5", "1000.7 3"}}},
+      {"a tilde inside a value", {.data = {"1000.0 1", "1000.5 a~b", "1001.0 3 4"}}},
+      {"comments and blanks in the data",
+       {.data = {"# c", "1000.0 1", "", "1000.5 2", "1001.0 3"}}},
+      {"long unwrapped line",
+       {.data = {"1000.0 1", long300}},
+       "Line too long for WRAP NO. Was 307 long. 256 is max.\r\n" + long300},
+      // The next section's title falls inside a record: the record walk reads on past it.
+      {"wrapped, title inside a record, long line after it",
+       {.data = {"1000.0", "1 2 3 4 5", "6 7 8 9 10", "1000.5", "1 2 3 4 5", "6 7 8 9 10",
+                 "1001.0"},
+        .wrap = "YES",
+        .curve = testing::curveLines(11),
+        .after = {"~Other", w80}},
+       "Line too long for WRAP YES. Was 80 long. 80 is max.\r\n" + w80},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
-    std::string path = prepare(join({kVersion, kWell, row.curve, row.data, row.after}));
-    runState().doWrap = row.doWrap;
-    Slots slots;
-    slots.fill(" ");
-    EXPECT_EQ(checkAsciiSection(path, row.wrap, row.linesPerRecord, row.channels, curveTable(path),
-                                slots),
-              row.code);
-    expectSlots(slots, 4, row.slots);
+    std::string path = testing::writeScratchFile("data_scan.las", testing::lasBytes(row.parts));
+    const std::string kept = dataGroups(path, row.parts.wrap, true);
+    EXPECT_EQ(kept, dataGroups(path, row.parts.wrap, false));
+    EXPECT_TRUE(kept.ends_with("|" + row.lengthFinding)) << kept;
   }
+}
+
+TEST(DataScan, AChangedFileIsReadAgain) {
+  LasParts parts{.data = {"1000.0", "1000.5"}};
+  Slots slots;
+  lineSyntax(parts, slots);
+  const std::string path = testing::scratchFolder() + "/data_checks.las";
+  std::int64_t start = runState().sectionIndex.back().start;
+  ASSERT_NE(keptScan(path, start), nullptr);
+  testing::writeScratchFile("data_checks.las", testing::lasBytes(parts) + "1001.0\r\n");
+  EXPECT_EQ(keptScan(path, start), nullptr);
+  EXPECT_EQ(keptScan(path + "x", start), nullptr);
 }
 
 }  // namespace
