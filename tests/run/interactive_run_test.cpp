@@ -2,170 +2,92 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
-#include <vector>
 
-#include "checks/report.h"
-#include "las/text.h"
 #include "run/run_state.h"
-#include "run/window_ops.h"
 #include "support/batch_run.h"
+#include "support/fake_window.h"
 #include "support/scratch.h"
 
 namespace zorvik {
 namespace {
 
-using testing::readBytes;
-using testing::RunSandbox;
-
-// Records what the run asks of the window; questions get the answers set up by the test.
-class FakeWindow : public WindowOps {
- public:
-  bool okCancelAnswer = true;
-  std::vector<std::string> calls;
-
-  void setTitle(const std::string& title) override { calls.push_back("title " + title); }
-  void setStatusLine(const std::string& text) override { calls.push_back("status " + text); }
-  void setProgress(int, const std::string&) override {}
-  void prepareResultTabs(float version) override {
-    calls.push_back("prepare " + formatShortest(version));
-  }
-  void enableResultTabs(bool enabled) override { calls.push_back(enabled ? "enable" : "disable"); }
-  void fillResultGrid(const CheckTable& table) override {
-    calls.push_back(&table == &runState().table3 ? "grid 3.0" : "grid 1.2/2.0");
-  }
-  bool yesNoAnswer = false;
-  bool askYesNo(const std::string&, const std::string&) override { return yesNoAnswer; }
-  bool askOkCancel(const std::string& title, const std::string& text) override {
-    calls.push_back("okcancel " + title + "|" + text);
-    return okCancelAnswer;
-  }
-  void showCritical(const std::string& title, const std::string& text) override {
-    calls.push_back("critical " + title + "|" + text);
-  }
-  void processEvents() override {}
-  void setBusyPointer(bool) override {}
-};
-
-const char* const kNotDetermined =
-    "okcancel LAS Version Not Found!|LAS Version was not determined. Proceeding as if Ver 2.0. ";
-const char* const kErrorBox =
-    "critical Error!|Error occured while processing the LAS file. No certification possible";
-const std::string kNoVers = "~VERSION\r\n WRAP.  NO : ONE\r\n~A D\r\n1\r\n";
-
-std::string versionFile(const char* version) {
-  return std::string("~VERSION\r\n VERS.  ") + version +
-         " : V\r\n WRAP.  NO : ONE\r\n~A D\r\n1\r\n";
+std::string versionFile(const char* versLine) {
+  return std::string("~VERSION\r\n") + versLine + " WRAP.  NO : ONE\r\n~A D\r\n1\r\n";
 }
 
-// A sandbox with the fake window registered and `bytes` (if any) as the current LAS file.
-struct WindowRun {
-  RunSandbox sandbox;
-  FakeWindow window;
-  std::string las;
-
-  explicit WindowRun(const std::string& name, const std::string* bytes = nullptr) {
-    runState().window = &window;
-    las = bytes ? sandbox.dir().write(name, *bytes) : sandbox.dir().file(name);
-    runState().lasFile = las;
-  }
-  ~WindowRun() { runState().window = nullptr; }
-};
-
-TEST(InteractiveRun, UnusableFileShowsGroupOneAndWritesTheLogWhenAsked) {
-  for (bool writeLog : {true, false}) {
-    SCOPED_TRACE(writeLog);
-    WindowRun run("missing.las");
-    runState().writeLog = writeLog;
-    runInteractive();
-    const std::vector<std::string> expected{"title Zorvik (" + run.las + ")",
-                                            "status Checking in Progress...", "enable",
-                                            "grid 1.2/2.0", "status Ready"};
-    EXPECT_EQ(run.window.calls, expected);
-    EXPECT_EQ(runState().table2.at(1, COL_RESULT, 1), "File does not exist or is not accessible");
-    EXPECT_EQ(runState().table3.at(1, COL_RESULT, 1), "File does not exist or is not accessible");
-    EXPECT_EQ(runState().statusLine, "Ready");
-    std::string log = run.sandbox.dir().file("missing.log");
-    EXPECT_EQ(runState().logFile, writeLog ? log : "");
-    EXPECT_EQ(std::filesystem::exists(log), writeLog);
-    if (writeLog) {
-      EXPECT_NE(readBytes(log).find("Failed: a. File exists"), std::string::npos);
-    }
-  }
-}
-
-TEST(InteractiveRun, CancelWhenTheVersionIsNotFound) {
-  WindowRun run("nov.las", &kNoVers);
-  run.window.okCancelAnswer = false;
-  runInteractive();
-  const std::vector<std::string> expected{"title Zorvik (" + run.las + ")",
-                                          "status Checking in Progress...", kNotDetermined,
-                                          kErrorBox, "status Ready"};
-  EXPECT_EQ(run.window.calls, expected);
-  EXPECT_EQ(runState().lasVersion, 2.0f);
-}
-
-TEST(InteractiveRun, ConfirmedCancelDisablesTheTabsAndServesTheEscapePress) {
-  const std::string bytes = versionFile("2.0");
-  WindowRun run("cancel.las", &bytes);
-  run.window.yesNoAnswer = true;
-  runState().escapePressed = true;  // pressed before the run: its first poll sees it
-  runInteractive();
-  const std::vector<std::string>& calls = run.window.calls;
-  ASSERT_GE(calls.size(), 2u);
-  EXPECT_EQ(calls[calls.size() - 2], "disable");
-  EXPECT_FALSE(runState().escapePressed);
-}
-
-TEST(InteractiveRun, VersionDecidesTheTabsAndTheDriver) {
+// Opening a file in the window: a stale log goes, the name is remembered, and the run's calls
+// follow from the version, the answers and the flags.
+TEST(CertifyWork, VersionQuestionsAndCancelsDecideTheCalls) {
+  const std::string kNotDetermined =
+      "okcancel LAS Version Not Found!|LAS Version was not determined. Proceeding as if Ver 2.0. "
+      "\n";
+  const std::string kErrorBox =
+      "critical Error!|Error occured while processing the LAS file. No certification possible\n";
+  const std::string kUnusable = "enable\ngrid 1.2/2.0\nstatus Ready\n";
   struct Row {
     const char* name;
-    std::string bytes;
-    bool okAnswer;
-    std::vector<std::string> opening;  // the calls before the driver takes over
+    std::string bytes;  // "<missing>": no file
+    // 'w' write-log option, 'c' cancel answer, 'b' batch flag, 'e' Escape pressed before the run.
+    const char* options;
     float version;
+    // The calls after title and status, one a line: all of them when the last is "status Ready",
+    // else the ones before the driver takes over.
+    std::string calls;
   };
+  const std::string noVers = versionFile("");
   const Row rows[] = {
-      {"NotFoundGoesOnAsTwo", kNoVers, true, {kNotDetermined, "prepare 2"}, 2.0f},
-      {"Twelve", versionFile("1.2"), true, {"prepare 1.2"}, 1.2f},
-      {"Two", versionFile("2.0"), true, {"prepare 2"}, 2.0f},
-      {"Three", versionFile("3.0"), true, {"prepare 3"}, 3.0f},
+      {"Missing", "<missing>", "", NO_VERSION, kUnusable},
+      {"MissingWithLog", "<missing>", "w", NO_VERSION, kUnusable},
+      {"NotFoundGoesOnAsTwo", noVers, "", 2.0f, kNotDetermined + "prepare 2\n"},
+      {"NotFoundCancelled", noVers, "c", 2.0f, kNotDetermined + kErrorBox + "status Ready\n"},
+      // No questions while the batch flag is set (a cancel answer would end the run).
+      {"BatchFlagAsksNothing", noVers, "bc", 2.0f, "prepare 2\n"},
+      {"Three", versionFile(" VERS. 3.0 : V\r\n"), "", 3.0f, "prepare 3\n"},
       // Refused in batch mode, certified as 1.2/2.0 here.
-      {"Unknown", versionFile("2.5"), true, {"prepare 2.5"}, 2.5f},
+      {"Unknown", versionFile(" VERS. 2.5 : V\r\n"), "", 2.5f, "prepare 2.5\n"},
+      // Pressed before the run: its first poll sees it, and the confirmed cancel serves it.
+      {"EscapeConfirmed", versionFile(" VERS. 2.0 : V\r\n"), "e", 2.0f,
+       "prepare 2\nyesno Please Confirm!|Do you want to cancel the certification in progress?\n"
+       "disable\nstatus Ready\n"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
-    WindowRun run("file.las", &row.bytes);
-    run.window.okCancelAnswer = row.okAnswer;
-    runInteractive();
-    const std::vector<std::string>& calls = run.window.calls;
-    ASSERT_GE(calls.size(), 2 + row.opening.size());
-    EXPECT_EQ(std::vector<std::string>(calls.begin() + 2, calls.begin() + 2 + row.opening.size()),
-              row.opening);
-    EXPECT_EQ(calls.back(), "status Ready");
+    const std::string options = row.options;
+    testing::RunSandbox sandbox;
+    testing::FakeWindow window;
+    window.okCancelAnswer = options.find('c') == std::string::npos;
+    window.yesNoAnswer = true;
+    runState().window = &window;
+    runState().lasFile = sandbox.dir().file("file.las");
+    if (row.bytes != "<missing>") sandbox.dir().write("file.las", row.bytes);
+    const std::string log = sandbox.dir().write("file.log", "stale");
+    runState().writeLog = options.find('w') != std::string::npos;
+    runState().batchMode = options.find('b') != std::string::npos;
+    runState().escapePressed = options.find('e') != std::string::npos;
+    doCertifyWork();
+    runState().window = nullptr;
+
+    ASSERT_GE(window.calls.size(), 2u);
+    EXPECT_EQ(window.calls[0], "title Zorvik (" + runState().lasFile + ")");
+    EXPECT_EQ(window.calls.back(), "status Ready");
+    std::string calls;
+    for (std::size_t i = 2; i < window.calls.size(); ++i) calls += window.calls[i] + "\n";
+    if (!row.calls.ends_with("status Ready\n"))
+      calls.resize(std::min(calls.size(), row.calls.size()));
+    EXPECT_EQ(calls, row.calls);
     EXPECT_EQ(runState().lasVersion, row.version);
+    EXPECT_FALSE(runState().escapePressed);
+    EXPECT_EQ(std::filesystem::exists(log), runState().writeLog);
+    if (runState().writeLog) {
+      EXPECT_NE(testing::readBytes(log).find("Failed: a. File exists"), std::string::npos);
+    }
+    // Batch runs leave the settings alone.
+    EXPECT_EQ(
+        sandbox.settingsText().find("lasFile=" + runState().lasFile + "\n") != std::string::npos,
+        !runState().batchMode);
   }
-}
-
-TEST(InteractiveRun, NoQuestionsWhileTheBatchFlagIsSet) {
-  WindowRun run("nov.las", &kNoVers);
-  runState().batchMode = true;
-  run.window.okCancelAnswer = false;  // would cancel if asked
-  runInteractive();
-  for (const std::string& call : run.window.calls) {
-    EXPECT_NE(call.rfind("okcancel", 0), 0u) << call;
-    EXPECT_NE(call.rfind("critical", 0), 0u) << call;
-  }
-  EXPECT_EQ(run.window.calls.at(2), "prepare 2");
-}
-
-TEST(CertifyWork, RemembersTheFileAndDropsAStaleLog) {
-  WindowRun run("missing.las");
-  std::string stale = run.sandbox.dir().write("missing.log", "stale");
-  doCertifyWork();
-  EXPECT_FALSE(std::filesystem::exists(stale));
-  EXPECT_NE(run.sandbox.settingsText().find("lasFile=" + run.las + "\n"), std::string::npos);
-  EXPECT_EQ(run.window.calls.back(), "status Ready");
 }
 
 }  // namespace
