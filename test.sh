@@ -13,9 +13,12 @@ if command -v clang-format >/dev/null; then
 fi
 
 jobs=$(nproc)
-cmake -S . -B build/release -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DZORVIK_GUI="$gui" >/dev/null
+# A compiler cache, when the machine has one, makes rebuilding the two configurations cheap.
+launcher=()
+command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+cmake -S . -B build/release -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DZORVIK_GUI="$gui" "${launcher[@]}" >/dev/null
 cmake --build build/release -j "$jobs"
-cmake -S . -B build/sanitize -G Ninja -DCMAKE_BUILD_TYPE=Debug -DZORVIK_GUI=OFF -DZORVIK_SANITIZE=ON >/dev/null
+cmake -S . -B build/sanitize -G Ninja -DCMAKE_BUILD_TYPE=Debug -DZORVIK_GUI=OFF -DZORVIK_SANITIZE=ON "${launcher[@]}" >/dev/null
 cmake --build build/sanitize -j "$jobs"
 
 echo "== sanitizer build"
