@@ -55,7 +55,7 @@ RecordRules asciiRecordRules(const std::string& wrapValue, int linesPerRecord, i
   rules.wrapped = !iequals(trimView(wrapValue), "NO");
   rules.linesPerRecord = linesPerRecord;
   rules.expectedValues = definitions;
-  rules.judgeLength = runState().doWrap;  // unwrapped lengths only on request
+  rules.judgeLength = runState().doWrap;  // lengths only on request, wrapped or not
   return rules;
 }
 

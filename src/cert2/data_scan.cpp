@@ -66,7 +66,7 @@ bool IncrementWalk::feed(std::string_view line) {
   if (answer_ != 0) return false;
   std::string_view t = trimLeftView(line);
   if (!t.empty() && t[0] == '~') {
-    answer_ = records_ < 2 ? STEP_UNANALYSABLE : STEP_CONSTANT;
+    answer_ = records_ < 2 ? STEP_NO_INCREMENT : STEP_CONSTANT;
     return false;
   }
   if (t.empty() || t[0] == '#') return true;
@@ -97,8 +97,8 @@ bool IncrementWalk::feed(std::string_view line) {
 }
 
 int IncrementWalk::finish(IncrementResult& result) const {
-  int answer = answer_ != 0 ? answer_ : (records_ < 2 ? STEP_UNANALYSABLE : STEP_CONSTANT);
-  result = answer == STEP_UNANALYSABLE ? IncrementResult{} : result_;
+  int answer = answer_ != 0 ? answer_ : (records_ < 2 ? STEP_NO_INCREMENT : STEP_CONSTANT);
+  result = answer == STEP_UNANALYSABLE || answer == STEP_NO_INCREMENT ? IncrementResult{} : result_;
   return answer;
 }
 
@@ -112,7 +112,7 @@ bool RecordWalk::feed(std::string_view line, std::int64_t lineStart, std::int64_
 bool RecordWalk::feed(std::string_view line, std::int64_t lineStart, std::int64_t lineLength,
                       const LineBytes& bytes) {
   if (done_) return false;
-  if (rules_.wrapped || rules_.judgeLength) {
+  if (rules_.judgeLength) {
     std::int64_t limit = rules_.wrapped ? MAX_WRAPPED_LINE : MAX_UNWRAPPED_LINE;
     if (lineLength > limit) {
       lengthFinding_ = (rules_.wrapped ? "Line too long for WRAP YES. Was "

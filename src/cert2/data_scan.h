@@ -15,7 +15,8 @@ namespace zorvik {
 inline constexpr int STEP_CONSTANT = 1;
 inline constexpr int STEP_VARIES = 2;
 inline constexpr int STEP_UNREADABLE = 3;    // the file could not be read
-inline constexpr int STEP_UNANALYSABLE = 4;  // fewer than two records, or an index not a number
+inline constexpr int STEP_UNANALYSABLE = 4;  // an index that is not a number
+inline constexpr int STEP_NO_INCREMENT = 5;  // fewer than two records: no increment to judge
 
 struct IncrementResult {
   double increment = 0;   // the last increment read (the one that broke the pattern, if any)
@@ -54,10 +55,12 @@ LineBytes scanLineBytes(std::string_view line);
 
 // What the record walk is asked to judge.
 struct RecordRules {
-  bool wrapped = false;  // records of `linesPerRecord` lines, lines up to 78 characters
+  bool wrapped = false;  // records of `linesPerRecord` lines
   int linesPerRecord = 1;
-  int expectedValues = 0;    // values every record must hold
-  bool judgeLength = false;  // lines of unwrapped data judged against 254 characters
+  int expectedValues = 0;  // values every record must hold
+  // Line lengths judged (78 characters when wrapped, else 254): only when the user asked for the
+  // wrap checks, whose row is not listed otherwise.
+  bool judgeLength = false;
 };
 
 // Reads records (one line, or `linesPerRecord` lines when wrapped) until the first one that is

@@ -153,7 +153,7 @@ int analyseIncrements(const std::string& fileName, int linesPerRecord, Increment
   LineReader file;
   if (!file.open(fileName)) return STEP_UNREADABLE;
   std::int64_t first = firstDataLinePosition(fileName);
-  if (noDataAt(first, file.length())) return STEP_UNANALYSABLE;
+  if (noDataAt(first, file.length())) return STEP_NO_INCREMENT;
   IncrementWalk walk(linesPerRecord, dataDelimiterChar());
   file.seek(first);
   std::string_view line;
@@ -279,6 +279,8 @@ int checkIndexRange(const std::string& fileName, const WellRange& well,
       return evaluate(slots);
     case STEP_UNANALYSABLE:
       return CHECK_NOTHING;  // deliberately records nothing for this check
+    case STEP_NO_INCREMENT:
+      // A single record has no increment to compare STEP with; its STRT and STOP still count.
     default:
       break;
   }

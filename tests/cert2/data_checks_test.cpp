@@ -58,6 +58,7 @@ TEST(CheckAsciiSection, WrappedRecords) {
     std::vector<std::string> data;  // records of three channels over two lines
     int code;
     std::string slots = "";
+    bool wrapChecks = true;
   };
   const Row rows[] = {
       {"78 characters pass",
@@ -67,6 +68,12 @@ TEST(CheckAsciiSection, WrappedRecords) {
        {"1000.0", line79, "1000.5", "3 4"},
        CHECK_FAILED,
        "4: Line too long for WRAP YES. Was 79 long. 80 is max.\r\n" + line79 + "\n"},
+      // Without the wrap checks no line length is judged, wrapped or not.
+      {"a line of 79 characters without the wrap checks",
+       {"1000.0", line79, "1000.5", "3 4"},
+       CHECK_PASSED,
+       "",
+       false},
       {"a record short of a value shows the joined record",
        {"1000.0", "1 2", " 1000.5 ", "3 "},
        CHECK_FAILED,
@@ -78,6 +85,7 @@ TEST(CheckAsciiSection, WrappedRecords) {
     SCOPED_TRACE(row.name);
     LasParts parts{.data = row.data, .wrap = "YES", .curve = testing::curveLines(3)};
     std::string path = testing::prepareLas("ascii_checks.las", testing::lasBytes(parts));
+    runState().doWrap = row.wrapChecks;
     Slots slots;
     slots.fill(" ");  // the check decides all four rows
     EXPECT_EQ(checkAsciiSection(path, "YES", 2, 3, testing::sectionTable(path, "Curve"), slots),

@@ -50,10 +50,11 @@ TEST(IndexChannel, EndsAndIncrements) {
        {"10:00:00 1", "10:00:10 1"},
        "unanalysable 0.00000 ",
        "10:00:00 10:00:10 10 10"},
-      {"no data line", 1, {}, "unanalysable 0.00000 ", "  0 0"},
+      {"no data line", 1, {}, "no-increment 0.00000 ", "  0 0"},
+      {"a single record", 1, {"1000.0 1"}, "no-increment 0.00000 ", "1000.0 1000.0 1000 1000"},
       {"a large section", 1, big, "constant 1.00000 21999.25", "2000.25 21999.25 2000.25 21999.25"},
   };
-  const char* answers[] = {"", "constant", "varies", "unreadable", "unanalysable"};
+  const char* answers[] = {"", "constant", "varies", "unreadable", "unanalysable", "no-increment"};
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     const std::string wrap = row.linesPerRecord == 1 ? "NO" : "YES";
@@ -108,6 +109,9 @@ TEST(CheckIndexRange, FindingsPerSlot) {
       {"a STOP of the NULL value written otherwise is compared",
        {.data = data, .stop = "STOP.M -999.250 : STOP"},
        "3: STOP = -999.25, Last ~ASCII index = 1001\n"},
+      // One record: no increment to judge STEP by, but STRT and STOP are still compared.
+      {"a single record passes when STRT and STOP are its index",
+       {.data = {"1000.0 1"}, .stop = "STOP.M 1000.0 : S"}},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
@@ -119,8 +123,9 @@ TEST(CheckIndexRange, FindingsPerSlot) {
     EXPECT_FALSE(runState().nullStopRepaired);
   }
   Slots slots;
-  std::string path = prepareLas("index_range.las", lasBytes({.data = {"1000.0 1"}}));
-  EXPECT_EQ(checkRange(path, slots), CHECK_NOTHING);  // a single data line
+  std::string path =
+      prepareLas("index_range.las", lasBytes({.data = {"10:00:00 1", "10:00:10 1"}}));
+  EXPECT_EQ(checkRange(path, slots), CHECK_NOTHING);  // an index that is no number
 }
 
 TEST(CheckIndexRange, RepairsANullStopInTheFile) {

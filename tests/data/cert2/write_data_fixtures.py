@@ -130,6 +130,10 @@ FIXTURES = {
     "g6_rounding": las(ascii=data(["1200.00000", "1200.25000", "1200.49999", "1200.75000",
                                    "1201.00000", "1201.25000"])),
     "g6_units": las(well=replaced(WELL, "STEP.", " STEP.F         0.2500                      : STEP")),
+    "g6_single_record": las(
+        well=replaced(replaced(WELL, "STRT.", " STRT.M         1670.0000                   : START DEPTH"),
+                      "STOP.", " STOP.M         1670.0000                   : STOP DEPTH"),
+        ascii=["27.5000" + VALUES[0]]),
     "g6_null_stop_repaired": las(well=replaced(WELL, "STOP.", " STOP.M         -999.25                     : STOP DEPTH")),
     # Group 7.
     "g7_channel_count": las(ascii=[line + "   1.0" for line in data()]),

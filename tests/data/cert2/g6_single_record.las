@@ -1,0 +1,28 @@
+~Version Information
+ VERS.                  2.0 : CWLS log ASCII Standard - VERSION 2.0
+ WRAP.                   NO : One line per depth step
+~Well Information
+#MNEM.UNIT      DATA                        DESCRIPTION
+ STRT.M         1670.0000                   : START DEPTH
+ STOP.M         1670.0000                   : STOP DEPTH
+ STEP.M         0.2500                      : STEP
+ NULL.          -999.25                     : NULL VALUE
+ COMP.          Zorvik Test Exploration     : COMPANY
+ WELL.          Zorvik 7-14-48-12           : WELL
+ FLD .          Sample Ridge                : FIELD
+ LOC .          7-14-048-12W5               : LOCATION
+ SRVC.          Prairie Logging Ltd.        : SERVICE COMPANY
+ DATE.          2003-11-15                  : LOG DATE
+ PROV.          Alberta                     : PROVINCE
+ UWI .          100071404812W500            : UNIQUE WELL ID
+~Curve Information
+ DEPT.M                      : Measured depth
+ GR  .GAPI                   : Gamma ray
+ RHOB.G/C3                   : Bulk density
+ NPHI.V/V                    : Neutron porosity
+ DT  .US/M                   : Sonic transit time
+ CALI.MM                     : Caliper
+~Parameter Information
+ BHT .DEGC      62.5                        : Bottom hole temperature
+~ASCII
+27.5000  45.10   2.450   0.210   262.5   216.0
