@@ -66,7 +66,7 @@ bool loadHeaderTable(const std::string& fileName, ParamTable& table, std::string
 // The country note alone in group 5 keeps the stop rule off for the rest of the run.
 bool onlyCountryNoteRecorded(const CheckTable& table) {
   return table.at(1, COL_RESULT, kWellGroup).empty() &&
-         !trimView(table.at(2, COL_RESULT, kWellGroup)).empty();
+         !trimView(table.at(2, COL_NOTE, kWellGroup)).empty();
 }
 
 // Runs after every check: events, Escape, progress, recording and the stop rule.
@@ -152,11 +152,12 @@ Next runChecks(const std::string& fileName, const Certify2Checks& checks) {
   const bool asciiHasOnlyData = slots[6].empty();
   if ((next = afterCheck(4, result, slots)) != Next::Go) return next;
 
-  // Group 5: ~Well mnemonics. A missing country set alone is a note, not a failure.
+  // Group 5: ~Well mnemonics. A missing country set alone is a note, not a failure: it is kept
+  // beside the row's result, which the verdict and the stop rule read, and the row passes.
   slots = presetSlots(2);
   result = checks.wellMnemonics(wellTable, table, slots);
   if (trimView(slots[1]).empty() && !slots[2].empty()) {
-    table.at(2, COL_RESULT, kWellGroup) = slots[2];
+    table.at(2, COL_NOTE, kWellGroup) = slots[2];
     result = CHECK_PASSED;
   }
   WellRange well;

@@ -4,6 +4,7 @@
 //   (0, 0, g)   heading of group g
 //   (r, 2, g)   title of check r of group g (empty: no such check)
 //   (r, 0, g)   result of check r: "" passed / not applicable, " " not reached, else the findings
+//   (r, 1, g)   a note on check r that fails nothing (the missing country sets of 1.2/2.0)
 //   (r, 3, g)   display mark of the row for the result grid
 #pragma once
 
@@ -29,6 +30,7 @@ inline constexpr int RUN_STOPPED = 1;
 
 // Column numbers of a check table.
 inline constexpr int COL_RESULT = 0;
+inline constexpr int COL_NOTE = 1;
 inline constexpr int COL_TITLE = 2;
 inline constexpr int COL_MARK = 3;
 

@@ -39,6 +39,8 @@ bool appendGroup(const CheckTable& table, int group, std::string& out) {
     std::string label = std::string(1, rowLetter(row)) + ". " + title;
     if (result.empty()) {
       out += "        " + label + kEol;
+      const std::string& note = table.at(row, COL_NOTE, group);
+      if (!note.empty()) out += "Note: " + replaceAll(note, "\r\n", "\r\nNote: ") + kEol;
     } else {
       out += "Failed: " + label + kEol;
       out += "Errors: " + replaceAll(result, "\r\n", "\r\nErrors: ") + kEol;
@@ -54,13 +56,17 @@ const CheckTable& reportTable() {
   return isVersion3() ? runState().table3 : runState().table2;
 }
 
-std::string verdictLine(const CheckTable& table) {
+std::string verdict(const CheckTable& table) {
   float version = runState().lasVersion;
   if (!anyFailure(table))
-    return "Result: LAS file PASSED Ver " + formatShortest(version) + " Certification";
+    return "LAS file PASSED Ver " + formatShortest(version) + " Certification";
   if (isKnownVersion(version))
-    return "Result: LAS file FAILS Ver " + formatShortest(version) + " Certification";
-  return "Result: LAS file FAILS Certification";
+    return "LAS file FAILS Ver " + formatShortest(version) + " Certification";
+  return "LAS file FAILS Certification";
+}
+
+std::string verdictLine(const CheckTable& table) {
+  return "Result: " + verdict(table);
 }
 
 std::string buildReport(const CheckTable& table) {

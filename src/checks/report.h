@@ -15,7 +15,10 @@ namespace zorvik {
 // exactly 3.0, otherwise the 1.2/2.0 table.
 const CheckTable& reportTable();
 
-// The "Result: ..." verdict line of `table` for the run state's version (without CR LF).
+// The verdict of `table` for the run state's version: "LAS file PASSED Ver 2 Certification" or
+// a FAILS text.
+std::string verdict(const CheckTable& table);
+// The report's "Result: " line: the verdict after that word (without CR LF).
 std::string verdictLine(const CheckTable& table);
 
 // The report of `table` for the run state's LAS file and version, dated now. Cannot fail.

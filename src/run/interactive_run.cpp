@@ -34,6 +34,12 @@ void enableTabs(bool enabled) {
   if (runState().window != nullptr) runState().window->enableResultTabs(enabled);
 }
 
+// The progress caption names the check just finished while a run goes on; once it has ended it
+// says how it ended, so a finished run never shows a stale "Doing check".
+void showOutcome(int percent, const std::string& caption) {
+  if (runState().window != nullptr) runState().window->setProgress(percent, caption);
+}
+
 // Runs the version's driver; an unknown version is certified by the 1.2/2.0 driver here, unlike
 // in batch mode, so the user still sees what can be checked.
 int dispatch(RunState& state) {
@@ -71,6 +77,7 @@ void certify() {
   if (status == RUN_COMPLETED) {
     enableTabs(true);
     if (state.window != nullptr) state.window->fillResultGrid(reportTable());
+    showOutcome(100, verdict(reportTable()));
     if (state.writeLog) {
       state.logFile = changeExtension(state.lasFile, "log");
       writeLogFile(state.logFile, "", "");
@@ -79,6 +86,7 @@ void certify() {
     }
   } else if (status == RUN_STOPPED) {
     enableTabs(false);
+    showOutcome(0, "Certification cancelled");
     // The user's cancel request has been served; the next run must not ask again at once.
     state.escapePressed = false;
   } else if (windowShown()) {

@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "checks/check_table.h"
+#include "las/text.h"
 
 namespace zorvik {
 
@@ -37,7 +38,12 @@ std::string checkDetails(const CheckTable& table, std::string_view key) {
 
   const std::string& result = table.at(row, COL_RESULT, group);
   std::string text = checkLabel(group, row);
-  if (result.empty()) return text + ":  Check OK";
+  if (result.empty()) {
+    // A passed check may carry a note, shown under it as the report shows it.
+    const std::string& note = table.at(row, COL_NOTE, group);
+    if (note.empty()) return text + ":  Check OK";
+    return text + ":  Check OK\r\nNote: " + replaceAll(note, "\r\n", "\r\nNote: ");
+  }
   if (result == " ") return text + ":  Check Not Performed";
   return text + ": " + result;
 }

@@ -53,8 +53,8 @@ Certify2Checks scriptedChecks() {
 }
 
 // Runs the scripted checks on a small file; gives the run in one line: the groups called, the
-// group.row results holding text, how it ended and the command log messages ("2 3 | 3.1 | fault
-// Error: ...").
+// group.row results holding text (and notes), how it ended and the command log messages ("2 3 |
+// 3.1 | fault Error: ...").
 std::string runScript(const testing::RunSandbox& sandbox, bool dataSections) {
   std::string text = "~Version\r\nVERS. 2.0 :\r\nWRAP. NO :\r\n~Well\r\nSTRT.M 1 :\r\n";
   if (dataSections) text += "~Curve\r\nDEPT.M :\r\n~A\r\n1\r\n2\r\n";
@@ -65,8 +65,9 @@ std::string runScript(const testing::RunSandbox& sandbox, bool dataSections) {
   outcome += "|";
   for (int group = 2; group <= 7; ++group) {
     for (int row = 1; row <= 15; ++row) {
-      if (!runState().table2.at(row, COL_RESULT, group).empty())
-        outcome += " " + std::to_string(group) + "." + std::to_string(row);
+      const std::string cell = " " + std::to_string(group) + "." + std::to_string(row);
+      if (!runState().table2.at(row, COL_RESULT, group).empty()) outcome += cell;
+      if (!runState().table2.at(row, COL_NOTE, group).empty()) outcome += cell + "(note)";
     }
   }
   const char* ends[] = {"completed", "fault", "stopped"};
@@ -88,7 +89,7 @@ TEST(Certify2Driver, RunsRecordsAndStopsByTheRules) {
   const Row rows[] = {
       {"the country note alone keeps 6 and 7 running",
        {{5, 1, 2}, {6, 1, 2}, {7, 1, 3}},
-       "2 3 4 5 6 7 | 5.2 6.2 7.3 | completed"},
+       "2 3 4 5 6 7 | 5.2(note) 6.2 7.3 | completed"},
       {.name = "no ~Curve or ~ASCII: group 6 passes unrun",
        .outcome = "2 3 4 5 7 | | completed",
        .dataSections = false},

@@ -35,22 +35,29 @@ TEST(CertifyWork, VersionQuestionsAndCancelsDecideTheCalls) {
     // The calls after title and status, one a line: all of them when the last is "status Ready",
     // else the ones before the driver takes over.
     std::string calls;
+    // The progress caption the run ends with: the verdict, or how it stopped ("" when unchanged).
+    std::string caption;
   };
   const std::string noVers = versionFile("");
   const Row rows[] = {
-      {"Missing", "<missing>", "", NO_VERSION, kUnusable},
-      {"MissingWithLog", "<missing>", "w", NO_VERSION, kUnusable},
-      {"NotFoundGoesOnAsTwo", noVers, "", 2.0f, kNotDetermined + "prepare 2\n"},
-      {"NotFoundCancelled", noVers, "c", 2.0f, kNotDetermined + kErrorBox + "status Ready\n"},
+      {"Missing", "<missing>", "", NO_VERSION, kUnusable, "LAS file FAILS Certification"},
+      {"MissingWithLog", "<missing>", "w", NO_VERSION, kUnusable, "LAS file FAILS Certification"},
+      {"NotFoundGoesOnAsTwo", noVers, "", 2.0f, kNotDetermined + "prepare 2\n",
+       "LAS file FAILS Ver 2 Certification"},
+      {"NotFoundCancelled", noVers, "c", 2.0f, kNotDetermined + kErrorBox + "status Ready\n", ""},
       // No questions while the batch flag is set (a cancel answer would end the run).
-      {"BatchFlagAsksNothing", noVers, "bc", 2.0f, "prepare 2\n"},
-      {"Three", versionFile(" VERS. 3.0 : V\r\n"), "", 3.0f, "prepare 3\n"},
+      {"BatchFlagAsksNothing", noVers, "bc", 2.0f, "prepare 2\n",
+       "LAS file FAILS Ver 2 Certification"},
+      {"Three", versionFile(" VERS. 3.0 : V\r\n"), "", 3.0f, "prepare 3\n",
+       "LAS file FAILS Ver 3 Certification"},
       // Refused in batch mode, certified as 1.2/2.0 here.
-      {"Unknown", versionFile(" VERS. 2.5 : V\r\n"), "", 2.5f, "prepare 2.5\n"},
+      {"Unknown", versionFile(" VERS. 2.5 : V\r\n"), "", 2.5f, "prepare 2.5\n",
+       "LAS file FAILS Certification"},
       // Pressed before the run: its first poll sees it, and the confirmed cancel serves it.
       {"EscapeConfirmed", versionFile(" VERS. 2.0 : V\r\n"), "e", 2.0f,
        "prepare 2\nyesno Please Confirm!|Do you want to cancel the certification in progress?\n"
-       "disable\nstatus Ready\n"},
+       "disable\nstatus Ready\n",
+       "Certification cancelled"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
@@ -78,6 +85,7 @@ TEST(CertifyWork, VersionQuestionsAndCancelsDecideTheCalls) {
       calls.resize(std::min(calls.size(), row.calls.size()));
     EXPECT_EQ(calls, row.calls);
     EXPECT_EQ(runState().lasVersion, row.version);
+    EXPECT_EQ(window.captions.empty() ? "" : window.captions.back(), row.caption);
     EXPECT_FALSE(runState().escapePressed);
     EXPECT_EQ(std::filesystem::exists(log), runState().writeLog);
     if (runState().writeLog) {
