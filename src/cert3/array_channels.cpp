@@ -84,7 +84,9 @@ std::vector<Element> definitionLines(LineReader& reader, const SectionEntry& sec
   return lines;
 }
 
-void checkSection(const std::vector<Element>& lines, Slots& slots) {
+// Judges one definition section; false when its unnumbered elements kept items 2 to 5 from being
+// tested.
+bool checkSection(const std::vector<Element>& lines, Slots& slots) {
   bool unnumbered = false;
   for (const Element& e : lines) {
     if (e.isArray && arrayElementNumber(e.mnemonic) == -1) {
@@ -93,7 +95,10 @@ void checkSection(const std::vector<Element>& lines, Slots& slots) {
       unnumbered = true;
     }
   }
-  if (unnumbered) return;
+  if (unnumbered) return false;
+  // The first section tested decides these items from their preset on.
+  for (int k = 2; k <= 5; ++k)
+    if (slots[k] == " ") slots[k].clear();
 
   std::unordered_map<std::string, ArrayGroup> groups;  // upper-cased base mnemonic
   ArrayGroup* current = nullptr;
@@ -139,22 +144,31 @@ void checkSection(const std::vector<Element>& lines, Slots& slots) {
       slots[5] += kLineBreak;
     }
   }
+  return true;
 }
 
 }  // namespace
 
 int checkArrayChannels(const std::string& fileName, Slots& slots) {
-  for (int k = 1; k <= 5; ++k) slots[k].clear();
+  slots[1].clear();
+  // Items 2 to 5 stay undecided (as the driver preset them) only when every section that has
+  // arrays could not be tested for them.
+  bool skipped = false;
   try {
     LineReader reader;
     if (reader.open(fileName)) {
       // Findings of every definition section are kept, one section after the other.
       for (const SectionEntry& entry : runState().sectionIndex) {
-        if (entry.role == ROLE_DEFINITION) checkSection(definitionLines(reader, entry), slots);
+        if (entry.role == ROLE_DEFINITION && !checkSection(definitionLines(reader, entry), slots))
+          skipped = true;
       }
     }
   } catch (const std::exception&) {
     return CHECK_FAULT;
+  }
+  if (!skipped) {
+    for (int k = 2; k <= 5; ++k)
+      if (slots[k] == " ") slots[k].clear();
   }
   for (int k = 1; k <= 5; ++k) {
     if (!slots[k].empty()) return CHECK_FAILED;

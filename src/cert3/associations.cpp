@@ -65,8 +65,8 @@ int checkAssociations(const std::string& fileName, Slots& slots) {
         }
       }
     }
-    // A line naming itself was told above; the walk names the lines whose references loop back
-    // through other lines (or lead into such a loop).
+    // The walk names every line whose references loop back (or lead into a loop); a line naming
+    // itself is told there again, after its "Line was like" entry above.
     std::vector<bool> circular = rowsInCircularChains(table);
     for (int r = 1; r <= table.size(); ++r) {
       if (!circular[static_cast<std::size_t>(r)]) continue;

@@ -26,7 +26,7 @@ std::vector<bool> rowsInCircularChains(const MnemonicTable& table) {
   for (int r = 1; r <= n; ++r) {
     for (const std::string& entry : table.row(r).entries) {
       int target = table.lookup(entry);
-      if (target > 0 && target != r) next[r].push_back(target);
+      if (target > 0) next[r].push_back(target);
     }
   }
 

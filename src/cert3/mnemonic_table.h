@@ -39,8 +39,8 @@ class MnemonicTable {
 
 // For every row (index 1..size(); index 0 unused): true when following its references, row to
 // referenced row, can come back to a row already met on the way, so the chain never ends; a row
-// that leads into such a loop counts too. A row's reference to itself is not followed (callers
-// tell it apart as a self-reference); references to missing mnemonics end their branch.
+// that leads into such a loop counts too. A row naming itself is such a loop, the shortest one;
+// references to missing mnemonics end their branch.
 std::vector<bool> rowsInCircularChains(const MnemonicTable& table);
 
 // The row laid out as a parameter line: "MNEM.UNIT    VALUE : DESCRIPTION | ASSOCIATION".

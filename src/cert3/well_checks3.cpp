@@ -31,19 +31,12 @@ void appendMissing(const ParamTable& table, const std::string_view (&list)[N], s
     if (entryOf(table, m) == 0) slot.append(m).append(CRLF);
 }
 
-// The missing mnemonics of a location set, joined by ", ", leaving GDAT out.
+// The missing mnemonics of a location set, each followed by ", ".
 template <std::size_t N>
-std::string missingLocation(const ParamTable& table, const std::string_view (&list)[N],
-                            bool& complete) {
+std::string missingLocation(const ParamTable& table, const std::string_view (&list)[N]) {
   std::string out;
-  complete = true;
-  for (std::string_view m : list) {
-    if (entryOf(table, m) != 0) continue;
-    complete = false;
-    if (m == "GDAT") continue;
-    if (!out.empty()) out += ", ";
-    out += m;
-  }
+  for (std::string_view m : list)
+    if (entryOf(table, m) == 0) out.append(m).append(", ");
   return out;
 }
 
@@ -86,14 +79,17 @@ void countryChecks(const std::string& fileName, const ParamTable& well, int ctry
 
 void locationChecks(const ParamTable& well, std::string& slot) {
   slot.clear();
-  bool completeA = false, completeB = false;
-  const std::string missingA = missingLocation(well, LOCATION_A, completeA);
-  const std::string missingB = missingLocation(well, LOCATION_B, completeB);
-  if (completeA || completeB) return;
-  // One line per set in the order the title names them; GDAT, shared by both, is named once last.
-  if (!missingA.empty()) slot.append(missingA).append(CRLF);
-  if (!missingB.empty()) slot.append(missingB).append(CRLF);
-  if (entryOf(well, "GDAT") == 0) slot.append("GDAT").append(CRLF);
+  const std::string missingA = missingLocation(well, LOCATION_A);
+  const std::string missingB = missingLocation(well, LOCATION_B);
+  if (missingA.empty() || missingB.empty()) return;
+  // One finding: set A's list, then set B's, in the order the title names them. GDAT belongs to
+  // both sets, so when it is missing each list gets a line break in its place and it is named once,
+  // at the end.
+  if (contains(missingB, "GDAT")) {
+    slot = replaceAll(missingA, "GDAT", CRLF) + replaceAll(missingB, "GDAT", CRLF) + "GDAT";
+  } else {
+    slot = missingA + missingB;
+  }
 }
 
 }  // namespace

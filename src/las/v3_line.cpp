@@ -144,7 +144,10 @@ int parseV3Line(std::string_view line, std::string& currentSection, V3LineDiagno
   }
 
   std::string mnemonic = fieldMnemonic(line);
-  if (!isValidMnemonic(mnemonic)) d[SLOT_MNEMONIC] = mnemonic;
+  // An empty mnemonic would leave the slot empty, which reads as no fault: name it instead, in
+  // the words the 1.2/2.0 check uses for the same line.
+  if (!isValidMnemonic(mnemonic))
+    d[SLOT_MNEMONIC] = trimView(mnemonic).empty() ? std::string(V3_MSG_MISSING_MNEMONIC) : mnemonic;
   std::string unit = fieldUnit(line);
   if (!isLegalUnitText(unit)) d[SLOT_UNIT] = unit;
   std::string value = fieldValue(line);

@@ -37,6 +37,7 @@ enum V3Slot : int {
 };
 
 // The messages the parser puts in its slots (checks print them as they are).
+inline constexpr const char* V3_MSG_MISSING_MNEMONIC = "Missing Mnemonic";
 inline constexpr const char* V3_MSG_UNKNOWN_LINE = "Unknown line type";
 inline constexpr const char* V3_MSG_UNRECOGNIZABLE = "Unrecognizable line";
 // Reserved for the period/colon order decision; the tests before it already catch a missing

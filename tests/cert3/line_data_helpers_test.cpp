@@ -111,7 +111,7 @@ TEST(MnemonicTable, ChainWalkFindsLoops) {
     std::vector<std::string> rows;
     std::vector<bool> circular;  // rows 1..n
   } cases[] = {
-      {"self-reference is not a chain", {"A>A", "B>A"}, {false, false}},
+      {"self-reference is the shortest loop", {"A>A", "B>A", "C>B"}, {true, true, true}},
       {"two lines refer to each other", {"A>B", "B>A"}, {true, true}},
       {"three-line loop", {"A>B", "B>C", "C>a"}, {true, true, true}},
       {"line leading into a loop", {"X>A", "A>B", "B>A"}, {true, true, true}},

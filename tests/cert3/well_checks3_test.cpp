@@ -10,12 +10,12 @@ namespace {
 
 using Lines = std::vector<std::pair<std::string, std::string>>;
 
-// A ~Well table holding the required and the latitude/longitude mnemonics and then `more`
-// (units and descriptions empty).
-ParamTable wellTable(const Lines& more) {
+// A ~Well table holding the required mnemonics, the latitude/longitude set unless told otherwise,
+// and then `more` (units and descriptions empty).
+ParamTable wellTable(const Lines& more, bool latitudeSet = true) {
   Lines lines = {{"STRT", "1"}, {"STOP", "2"}, {"STEP", "1"}, {"NULL", "-999.25"}, {"COMP", "c"},
-                 {"WELL", "w"}, {"FLD", "f"},  {"LOC", "l"},  {"DATE", "d"},       {"SRVC", "s"},
-                 {"LATI", "1"}, {"LONG", "2"}, {"GDAT", "g"}};
+                 {"WELL", "w"}, {"FLD", "f"},  {"LOC", "l"},  {"DATE", "d"},       {"SRVC", "s"}};
+  if (latitudeSet) lines.insert(lines.end(), {{"LATI", "1"}, {"LONG", "2"}, {"GDAT", "g"}});
   lines.insert(lines.end(), more.begin(), more.end());
   ParamTable table;
   for (const auto& [mnemonic, value] : lines)
@@ -44,6 +44,26 @@ TEST(WellChecks3, CountryCodes) {
               row.failedItem == 0 ? CHECK_PASSED : CHECK_FAILED);
     for (int k = 1; k <= 6; ++k)
       EXPECT_EQ(slots[k], k == row.failedItem ? row.finding : "") << "item " << k;
+  }
+}
+
+// Item 6 names what each location set lacks in one finding, set A's list first; a missing GDAT
+// leaves a line break in both lists and is named once at the end.
+TEST(WellChecks3, LocationSets) {
+  const std::pair<Lines, std::string> rows[] = {
+      {{{"X", "1"}, {"Y", "2"}, {"GDAT", "g"}, {"HZCS", "h"}}, ""},
+      {{{"LATI", "1"}, {"LONG", "2"}, {"GDAT", "g"}}, ""},
+      {{{"X", "1"}, {"LONG", "2"}, {"GDAT", "g"}}, "Y, HZCS, LATI, "},
+      {{}, "X, Y, \r\n, HZCS, LATI, LONG, \r\n, GDAT"},
+  };
+  for (const auto& [lines, finding] : rows) {
+    SCOPED_TRACE(finding);
+    Slots slots;
+    Lines withCountry = lines;
+    withCountry.emplace_back("CTRY", "");  // an empty code requires nothing
+    EXPECT_EQ(checkWellSection3("/nonexistent/zorvik.las", wellTable(withCountry, false), slots),
+              finding.empty() ? CHECK_PASSED : CHECK_FAILED);
+    EXPECT_EQ(slots[6], finding);
   }
 }
 

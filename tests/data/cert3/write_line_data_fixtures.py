@@ -82,6 +82,8 @@ def replace(lines, old, new):
 def fixtures():
     b = base()
     yield "g4_mnemonic_illegal", replace(b, "BS  .MM", ["B;S .MM   215.9               : BIT SIZE {F}"])
+    yield "g4_mnemonic_missing", replace(
+        b, "NPHI.V/V", ["    .V/V                      : NEUTRON POROSITY {F}"])
     yield "g4_unit_illegal", replace(b, "BS  .MM", ["BS  .M;M  215.9               : BIT SIZE {F}"])
     yield "g4_value_illegal", replace(b, "MUD .", ["MUD .     WATER;OIL           : MUD TYPE {S}"])
     yield "g4_bar_before_colon", replace(b, "MUD .", ["MUD .     WATER | BS          : MUD TYPE"])
