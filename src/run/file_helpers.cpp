@@ -54,7 +54,10 @@ bool logFileWritable(const std::string& name) {
 std::string changeExtension(const std::string& name, const std::string& extension) {
   if (trimView(name).empty()) return name;
   std::string separator = trimView(extension).empty() ? "" : ".";
-  std::size_t point = name.find('.');
+  // Only the file's own name has an extension: a point in a folder name must not cut there, or
+  // a derived name would land (and replace a file) above the LAS file's folder.
+  std::size_t slash = name.find_last_of('/');
+  std::size_t point = name.find('.', slash == std::string::npos ? 0 : slash + 1);
   if (point == std::string::npos) return name + separator + extension;
   return name.substr(0, point) + separator + extension;
 }

@@ -29,9 +29,9 @@ int fileAttributes(const std::string& name);
 // file of that name is emptied and removed.
 bool logFileWritable(const std::string& name);
 
-// `name` cut at its first "." (of the whole name, folders included) followed by "." and
-// `extension`; without a point the extension is appended. An empty extension appends nothing
-// and drops the point. A blank name comes back unchanged.
+// `name` cut at the first "." of the file's own name (after the last "/"; folders are never cut)
+// followed by "." and `extension`; without a point the extension is appended. An empty extension
+// appends nothing and drops the point. A blank name comes back unchanged.
 std::string changeExtension(const std::string& name, const std::string& extension);
 
 }  // namespace zorvik

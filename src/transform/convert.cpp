@@ -8,12 +8,10 @@ bool convertToVersion3(const std::string&, const std::string&, LogSectionTitles,
 }
 
 std::string version3FileName(const std::string& lasFile) {
-  // Only a point in the file's own name starts an extension, never one in a folder name.
+  // Cut as every derived name is: at the first point of the file's own name, never in a folder.
   const std::size_t slash = lasFile.find_last_of('/');
-  const std::size_t nameStart = slash == std::string::npos ? 0 : slash + 1;
-  const std::size_t dot = lasFile.find_last_of('.');
-  const std::size_t stem = (dot == std::string::npos || dot < nameStart) ? lasFile.size() : dot;
-  return lasFile.substr(0, stem) + "_ver3.las";
+  const std::size_t dot = lasFile.find('.', slash == std::string::npos ? 0 : slash + 1);
+  return lasFile.substr(0, dot == std::string::npos ? lasFile.size() : dot) + "_ver3.las";
 }
 
 }  // namespace zorvik

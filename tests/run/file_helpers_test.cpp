@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "run/version_sniff.h"
 #include "support/scratch.h"
 
@@ -11,10 +13,17 @@ namespace {
 
 using testing::ScratchDir;
 
-TEST(ChangeExtension, CutsAtTheFirstPointOfTheWholeName) {
-  EXPECT_EQ(changeExtension("/data.v2/well.las", "log"), "/data.log");
-  EXPECT_EQ(changeExtension("./well.las", "log"), ".log");
-  EXPECT_EQ(changeExtension("/data/well.las", ""), "/data/well");
+TEST(ChangeExtension, CutsAtTheFirstPointOfTheFilesOwnName) {
+  const std::array<std::array<const char*, 3>, 6> rows = {{
+      {"/data.v2/well.las", "log", "/data.v2/well.log"},
+      {"./well.las", "log", "./well.log"},
+      {"/data/well.v2.las", "log", "/data/well.log"},
+      {"/data.v2/well", "log", "/data.v2/well.log"},
+      {"/data/well.las", "", "/data/well"},
+      {"well.las", "log", "well.log"},
+  }};
+  for (const auto& [name, extension, expected] : rows)
+    EXPECT_EQ(changeExtension(name, extension), expected) << name;
 }
 
 TEST(VersionSniff, TakesTheFirstWellFormedVersLineBeforeTheData) {
