@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "las/text.h"
 #include "run/batch_mode.h"
@@ -21,24 +22,30 @@ WindowLauncher& launcher() {
   return registered;
 }
 
-// The process command line as one text: the words after the program's name joined by blanks.
-std::string commandLineOf(int argc, char** argv) {
+// The words of the command line are the arguments as the process received them, one word each:
+// the shell has split them already, so a quoted name with blanks stays one word.
+std::vector<std::string> commandWordsOf(int argc, char** argv) {
+  std::vector<std::string> words;
+  for (int i = 1; i < argc; ++i) words.emplace_back(argv[i]);
+  return words;
+}
+
+// The command line as one text, for the command log: the words joined by single blanks.
+std::string commandLineOf(const std::vector<std::string>& words) {
   std::string line;
-  for (int i = 1; i < argc; ++i) {
-    if (i > 1) line += ' ';
-    line += argv[i];
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    if (i > 0) line += ' ';
+    line += words[i];
   }
   return line;
 }
 
 // "/W" is looked for anywhere after the first word, in any letter case. Here absolute paths
-// begin with "/", so a log file under "/work" would read as the option too: the " /W" found
-// must end at a blank or at the end of the line.
-bool hasWrapOption(const std::string& line) {
-  for (std::size_t at = ifind(line, " /W"); at != 0; at = ifind(line, " /W", at + 1)) {
-    std::size_t after = at + 3;  // 1-based position just past the match
-    if (after > line.size() || line[after - 1] == ' ') return true;
-  }
+// begin with "/", so a log file under "/work" would read as the option too: "/W" counts only as
+// a word of its own.
+bool hasWrapOption(const std::vector<std::string>& words) {
+  for (std::size_t i = 1; i < words.size(); ++i)
+    if (iequals(trimView(words[i]), "/W")) return true;
   return false;
 }
 
@@ -71,8 +78,8 @@ void setWindowLauncher(WindowLauncher registered) {
 
 int startUp(int argc, char** argv) {
   RunState& state = runState();
-  const std::string commandLine = commandLineOf(argc, argv);
-  std::string trimmed;
+  const std::vector<std::string> words = commandWordsOf(argc, argv);
+  const std::string commandLine = commandLineOf(words);
 
   // The statements of start-up, numbered so that a fault can resume after the one that failed.
   auto step = [&](int number) -> Next {
@@ -100,16 +107,11 @@ int startUp(int argc, char** argv) {
       case 7:
         state.batchMode = true;
         return Next::Step;
-      case 8:
-        trimmed = trim(commandLine);
-        return Next::Step;
       case 9:
         writeCommandLog("Command line :" + commandLine);
         return Next::Step;
       case 10:
-        state.commandWords.clear();
-        for (const std::string& word : split(trimmed, " "))
-          state.commandWords.push_back(trim(word));
+        state.commandWords = words;
         return Next::Step;
       case 11:
         state.commandWords.at(0) = withoutQuotes(state.commandWords.at(0));
@@ -136,7 +138,7 @@ int startUp(int argc, char** argv) {
         return Next::Step;
       }
       case 14:
-        state.doWrap = hasWrapOption(trimmed);
+        state.doWrap = hasWrapOption(words);
         return Next::Step;
       case 15:
         state.logFile = state.commandWords.at(1);

@@ -16,14 +16,6 @@ using testing::readBytes;
 
 const std::string kData = std::string(ZORVIK_TEST_DATA) + "/run/";
 
-// The report of a run (two lines at least) with its folder and line 2 (the program's version and
-// the date) pinned, so that it can be kept as a golden file.
-std::string pinned(std::string report, const std::string& folder) {
-  const std::size_t line2 = report.find("\r\n") + 2;
-  report.replace(line2, report.find("\r\n", line2) - line2, "Zorvik Ver: <version> Date: <date>");
-  return replaceAll(report, folder, "<dir>");
-}
-
 TEST(BatchRun, WritesItsReportAndCommandLogEntries) {
   const std::string kNotRead =
       "LAS Version was not read from the file correctly. (0). It is either absent, not a "
@@ -62,10 +54,10 @@ TEST(BatchRun, WritesItsReportAndCommandLogEntries) {
     bool written = std::filesystem::exists(runState().logFile);
     ASSERT_EQ(written, row.golden != nullptr);
     if (written) {
-      EXPECT_EQ(
-          testing::compareWithGolden(pinned(readBytes(runState().logFile), sandbox.dir().path()),
-                                     kData + row.golden),
-          "");
+      EXPECT_EQ(testing::compareWithGolden(
+                    testing::pinnedReport(readBytes(runState().logFile), sandbox.dir().path()),
+                    kData + row.golden),
+                "");
     }
   }
 }

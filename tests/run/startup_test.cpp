@@ -7,6 +7,7 @@
 
 #include "las/text.h"
 #include "run/run_state.h"
+#include "support/batch_run.h"
 #include "support/scratch.h"
 
 namespace zorvik {
@@ -21,13 +22,20 @@ std::string lasFile(const char* version) {
          " : V\r\n WRAP. NO : W\r\n~A DEPT\r\n1.0\r\n";
 }
 
-int runStartUp(const std::string& commandLine) {
-  // The process gets its words already split; start-up joins them again with blanks.
-  std::vector<std::string> words = split(trim("zorvik " + commandLine), " ");
+// Starts up with the program's name and `words` as the process's arguments.
+int runStartUpWith(std::vector<std::string> words) {
+  words.insert(words.begin(), "zorvik");
   std::vector<char*> argv;
   for (std::string& w : words) argv.push_back(w.data());
   argv.push_back(nullptr);
   return startUp(static_cast<int>(words.size()), argv.data());
+}
+
+// The command line as a shell without quoting would split it: at every blank.
+int runStartUp(const std::string& commandLine) {
+  std::vector<std::string> words = split(trim(commandLine), " ");
+  if (words.size() == 1 && words[0].empty()) words.clear();
+  return runStartUpWith(words);
 }
 
 TEST(StartUp, WritesExactlyItsCommandLogEntries) {
@@ -94,6 +102,62 @@ TEST(StartUp, WritesExactlyItsCommandLogEntries) {
       EXPECT_EQ(runState().doWrap, row.wrap == 1);
       EXPECT_EQ(sandbox.settingsText(), stored);
     }
+  }
+}
+
+// Whole batch runs whose report shows how start-up read its words: the arguments are the words as
+// the process received them (blanks and all), "/W" counts only as a word of its own, and the
+// fallback log is named from the LAS file's own name, never cut in a folder name.
+TEST(StartUp, ArgumentsAndDerivedNamesDecideTheReport) {
+  const std::string data = std::string(ZORVIK_TEST_DATA);
+  struct Row {
+    const char* golden;  // under tests/data/run
+    const char* las;     // where the LAS file goes in the scratch folder ({d})
+    const char* source;  // the fixture copied there
+    std::vector<std::string> words;
+    const char* report;  // where the report must be written
+  };
+  const Row rows[] = {
+      {"blank_in_name.report",
+       "{d}/well copy.las",
+       "cert2/v2_passing.las",
+       {"{d}/well copy.las", "{d}/out.log"},
+       "{d}/out.log"},
+      {"folder_with_point.report",
+       "{d}/proj.v2/well.las",
+       "cert2/v2_passing.las",
+       {"{d}/proj.v2/well.las", "{d}/no/such/out.log"},
+       "{d}/proj.v2/well.log"},
+      {"wrap_option.report",
+       "{d}/long.las",
+       "cert2/g7_line_too_long.las",
+       {"{d}/long.las", "{d}/out.log", "/w"},
+       "{d}/out.log"},
+      {"wrap_option_not_a_word.report",
+       "{d}/long.las",
+       "cert2/g7_line_too_long.las",
+       {"{d}/long.las", "{d}/out.log", "/wide"},
+       "{d}/out.log"},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.golden);
+    RunSandbox sandbox;
+    const std::string d = sandbox.dir().path();
+    auto inScratch = [&](const std::string& name) { return replaceAll(name, "{d}", d); };
+    const std::filesystem::path las = inScratch(row.las);
+    std::filesystem::create_directories(las.parent_path());
+    std::filesystem::copy_file(data + "/" + row.source, las);
+    // An unrelated file where cutting the whole path at its first point would put the log.
+    const std::string unrelated = sandbox.dir().write("proj.log", "unrelated");
+    sandbox.writeSettings("[Startup]\nlasFile=" + las.string() + "\n");
+    std::vector<std::string> words;
+    for (const std::string& word : row.words) words.push_back(inScratch(word));
+    EXPECT_EQ(runStartUpWith(words), 0);
+    EXPECT_EQ(testing::readBytes(unrelated), "unrelated");
+    EXPECT_EQ(testing::compareWithGolden(
+                  testing::pinnedReport(testing::readBytes(inScratch(row.report)), d),
+                  data + "/run/" + row.golden),
+              "");
   }
 }
 

@@ -153,6 +153,19 @@ std::string compareWithGolden(const std::string& actual, const std::string& gold
   }
 }
 
+std::string pinnedReport(std::string report, const std::string& folder) {
+  const std::size_t line2 = report.find("\r\n");
+  if (line2 == std::string::npos) return report;
+  const std::size_t line2End = report.find("\r\n", line2 + 2);
+  if (line2End == std::string::npos) return report;
+  report.replace(line2 + 2, line2End - line2 - 2, "Zorvik Ver: <version> Date: <date>");
+  if (folder.empty()) return report;
+  for (std::size_t at = report.find(folder); at != std::string::npos;
+       at = report.find(folder, at + 5))
+    report.replace(at, folder.size(), "<dir>");
+  return report;
+}
+
 std::string reportWithoutFolder(const std::string& report) {
   const std::string head = "LAS Certification Result for: ";
   if (report.rfind(head, 0) != 0) return report;

@@ -22,6 +22,10 @@ BatchResult certifyInBatch(const std::string& lasPath, bool wrapChecks = false);
 // goldens do not depend on the scratch folder a run used.
 std::string reportWithoutFolder(const std::string& report);
 
+// The report of an in-process run (two lines at least) with `folder` shown as "<dir>" and line 2
+// (the program's version and the date) pinned, so that it can be kept as a golden file.
+std::string pinnedReport(std::string report, const std::string& folder);
+
 // Reads a whole file as bytes ("" when missing).
 std::string readBytes(const std::string& path);
 
