@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QProcess>
+#include <QProgressBar>
 #include <QStandardPaths>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -164,6 +165,54 @@ TEST_F(WindowTest, OpeningAFileShowsItsGridAndSelectsTheFirstFailedCheck) {
   EXPECT_EQ(details->toPlainText(), "7a:  Check OK");
 }
 
+// The grid, the details panel and the progress caption tell what the file's report tells: a row
+// the report lists as passed is passed here, an undecided one not performed, and the caption
+// ends on the report's verdict.
+TEST_F(WindowTest, GridDetailsAndCaptionShowTheReportsOutcome) {
+  const std::string cert2 = ZORVIK_TEST_DATA "/cert2/";
+  const std::string cert3 = ZORVIK_TEST_DATA "/cert3/";
+  const char* const kPassed20 = "P:PPPPPP P:PPPPPP P:PPP P:PPPPPPP P:PP P:PPPPPPP P:PPP";
+  const char* const kPassed30To7 =
+      "P:PPPPPPP P:PPPPPPPPP P:PPPPPPPPPPPPPP P:PPPPPPPPPPP P:PPPPPP P:PPPPPPP P:PPP";
+  struct Row {
+    std::string fixture;
+    std::string marks;
+    int group, check;     // the row selected, 0-based
+    std::string details;  // what the panel shows for it
+    const char* caption;
+  };
+  const Row rows[] = {
+      // Without the wrap checks a WRAP YES line over 78 characters is not judged at all.
+      {cert2 + "g7_line_too_long_wrap.las", kPassed20, 6, 2, "7c:  Check OK",
+       "LAS file PASSED Ver 2 Certification"},
+      // The missing country sets are a note on a passed row.
+      {cert2 + "v2_well_country_note.las", kPassed20, 4, 1,
+       "5b:  Check OK\nNote: Country Specific mnemonics: CDN set missing,  PROV, UWI,  ; USA set "
+       "missing, STAT, CNTY, CTRY, API, ",
+       "LAS file PASSED Ver 2 Certification"},
+      // An unnumbered array element leaves the other array rows undecided.
+      {cert3 + "g9_unnumbered.las", std::string(kPassed30To7) + " P:PP F:FNNNN", 8, 1,
+       "9b:  Check Not Performed", "LAS file FAILS Ver 3 Certification"},
+      // A line naming itself is also a circular association, and so is the line leading to it.
+      {cert3 + "g8_self_reference.las", std::string(kPassed30To7) + " F:PF N:NNNNN", 7, 1,
+       "8b: Line was like : BS.MM    215.9 : BIT SIZE | BS\nCircular Association at line: \n"
+       "BS.MM    215.9 : BIT SIZE | BS\nCircular Association at line: \n"
+       "GR.GAPI     : GAMMA RAY | BS\n",
+       "LAS file FAILS Ver 3 Certification"},
+  };
+  runState().doWrap = false;
+  const ResultModel& model = *window->resultModel();
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.fixture);
+    openFixture(QString::fromStdString(row.fixture));
+    EXPECT_TRUE(messages.empty());
+    EXPECT_EQ(gridMarks(model), row.marks);
+    child<QTreeView>("fg")->setCurrentIndex(model.index(row.check, 0, model.index(row.group, 0)));
+    EXPECT_EQ(child<QPlainTextEdit>("errAt")->toPlainText().toStdString(), row.details);
+    EXPECT_EQ(child<QProgressBar>("progLab")->format().toStdString(), row.caption);
+  }
+}
+
 TEST_F(WindowTest, OptionsFlipFlagsPanelsAndSavedSettings) {
   openFixture("no_wrap_20.las");
   const ResultModel& model = *window->resultModel();
@@ -240,6 +289,11 @@ TEST_F(WindowTest, EscapeDuringARunAsksAndCancelsOnYes) {
     EXPECT_EQ(messages[0].defaultButton, QMessageBox::No);
     EXPECT_EQ(child<QTabWidget>("tabb")->isEnabled(), row.groups != 0);
     EXPECT_EQ(groupRows(), row.groups);
+    // The caption tells how the run ended, not which check it was at.
+    const std::string version = row.groups == 9 ? "3" : "2";
+    EXPECT_EQ(child<QProgressBar>("progLab")->format().toStdString(),
+              row.groups == 0 ? "Certification cancelled"
+                              : "LAS file PASSED Ver " + version + " Certification");
     EXPECT_EQ(child<QLabel>("statusLine")->text(), "Ready");
     EXPECT_FALSE(window->certifying());
     EXPECT_FALSE(runState().escapePressed);
