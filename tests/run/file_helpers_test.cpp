@@ -7,6 +7,7 @@
 
 #include "run/version_sniff.h"
 #include "support/scratch.h"
+#include "transform/convert.h"
 
 namespace zorvik {
 namespace {
@@ -24,6 +25,13 @@ TEST(ChangeExtension, CutsAtTheFirstPointOfTheFilesOwnName) {
   }};
   for (const auto& [name, extension, expected] : rows)
     EXPECT_EQ(changeExtension(name, extension), expected) << name;
+}
+
+// The conversion's output name is cut by the same rule as the log file names.
+TEST(ChangeExtension, TheConvertedFileIsNamedByTheSameRule) {
+  EXPECT_EQ(version3FileName("/data.v2/well.las"), "/data.v2/well_ver3.las");
+  EXPECT_EQ(version3FileName("/data/well.v2.las"), "/data/well_ver3.las");
+  EXPECT_EQ(version3FileName("/data.v2/well"), "/data.v2/well_ver3.las");
 }
 
 TEST(VersionSniff, TakesTheFirstWellFormedVersLineBeforeTheData) {
