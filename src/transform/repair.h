@@ -1,22 +1,56 @@
-// Repair of common faults of 1.2/2.0 files: ~Well lines that are missing get defaults and the
-// index units are asked of the user. The repaired file replaces the input after a confirmation.
+// Repair of the common faults of 1.2/2.0 files, each tied to the check row that finds it: line
+// ends, tabs and blanks in header lines, missing ~Version and ~Well lines, and STRT/STOP/STEP
+// values that disagree with the data. Data value texts are never changed.
 //
-// Can fail: the answer is false when nothing was repaired (the input is then left as it was).
+// The file is read twice line by line and written once through the replacing writer: only the
+// header and a few facts of the data are held in memory.
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
+
+#include "checks/check_table.h"
+#include "transform/changes.h"
+#include "transform/output_file.h"
 
 namespace zorvik {
 
-// What a repair asks of the user; the window supplies dialogs, tests supply answers.
-struct RepairQuestions {
-  // Shows `prompt` and gives back the text typed; empty when the user cancelled.
-  std::function<std::string(const std::string& prompt)> askText;
-  // A Yes/No question; true for Yes.
-  std::function<bool(const std::string& title, const std::string& text)> confirm;
+inline constexpr const char* INDEX_UNITS_PROMPT = "Please enter the index units (FT, M, S etc)";
+
+struct RepairRequest {
+  std::string file;
+  // Where the repaired file goes; empty: it replaces `file` (the caller has the user's consent).
+  std::string output;
+  // The rows certification found failing: a repair runs only when its row is among them. Unset:
+  // every repair whose fault is present runs.
+  std::optional<std::vector<CheckRow>> found;
+  // Asked for the index unit when ~Well lines with units are missing and the index channel has
+  // none; an empty answer (or no function) skips those lines.
+  std::function<std::string(const std::string& prompt)> askIndexUnits;
+  SinkFactory openOutput = openReplacing;
 };
 
-bool repairLasFile(const std::string& lasFile, const RepairQuestions& questions);
+enum class RepairOutcome {
+  Repaired,         // the file was rewritten
+  NothingRepaired,  // no repair applied: nothing was written
+  Failed,           // reading or writing failed: nothing was changed
+};
+
+struct RepairResult {
+  RepairOutcome outcome = RepairOutcome::Failed;
+  std::string error;
+  // Every change made, then the faults left for the user ("not repaired").
+  std::vector<Change> changes;
+};
+
+RepairResult repairFile(const RepairRequest& request);
+
+// The rows of a 1.2/2.0 check table that hold findings (a lone blank, "not reached", is none).
+std::vector<CheckRow> failingRows(const CheckTable& table);
+
+// The rows the repairs are tied to.
+bool isRepairableRow(CheckRow row);
 
 }  // namespace zorvik

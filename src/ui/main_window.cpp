@@ -24,6 +24,7 @@
 #include <QTableWidget>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <optional>
 
 #include "checks/report.h"
 #include "run/command_log.h"
@@ -43,6 +44,10 @@
 namespace zorvik {
 
 namespace {
+
+// Each round of a repair may bring to light faults that the certification before it could not
+// reach; a handful of rounds covers every group the repairs touch.
+constexpr int MAX_REPAIR_ROUNDS = 5;
 
 QString fromStd(const std::string& text) {
   return QString::fromStdString(text);
@@ -508,21 +513,55 @@ void CertifyWindow::optionsChanged() {
 
 void CertifyWindow::attemptRepair() {
   if (certifying_) return;
-  RepairQuestions questions;
-  questions.askText = [this](const std::string& prompt) {
-    return toStd(services_.askText(this, QStringLiteral("Attempt Repair"), fromStd(prompt)));
+  RunState& state = runState();
+  if (state.lasFile.empty() || !fileExists(state.lasFile)) return;
+  if (!askYesNo("Attempt Repair", "Repair " + state.lasFile +
+                                      "?\r\n\r\nThe file will be replaced by its repaired copy."))
+    return;
+
+  RepairRequest request;
+  request.file = state.lasFile;
+  std::optional<std::string> units;  // asked once, whatever the number of rounds
+  request.askIndexUnits = [this, &units](const std::string& prompt) {
+    if (!units)
+      units = toStd(services_.askText(this, QStringLiteral("Attempt Repair"), fromStd(prompt)));
+    return *units;
   };
-  questions.confirm = [this](const std::string& title, const std::string& text) {
-    return askYesNo(title, text);
-  };
-  if (!repairLasFile(runState().lasFile, questions)) {
+
+  // Certification stops at the first failing group, so a repair can bring later faults to light:
+  // each round repairs what the last certification found and certifies again.
+  std::vector<Change> done;
+  std::vector<Change> left;
+  bool failed = false;
+  for (int round = 0; round < MAX_REPAIR_ROUNDS && !isVersion3(); ++round) {
+    request.found = failingRows(state.table2);
+    RepairResult result;
+    try {
+      result = repairFile(request);
+    } catch (const std::exception&) {
+      result.outcome = RepairOutcome::Failed;
+    }
+    if (result.outcome == RepairOutcome::Failed) {
+      failed = true;
+      break;
+    }
+    left.clear();
+    for (Change& c : result.changes)
+      (c.kind == ChangeKind::NotRepaired ? left : done).push_back(std::move(c));
+    if (result.outcome != RepairOutcome::Repaired) break;
+    state.repairChoice = 2;
+    showOptionStates();
+    runInteractive();
+  }
+  if (failed) {
     message(QMessageBox::Critical, QStringLiteral("Error Attempting Repair"),
             QStringLiteral("An unexpected error happened during attempted repair."));
     return;
   }
-  runState().repairChoice = 2;
-  showOptionStates();
-  repeatCertification();
+  done.insert(done.end(), left.begin(), left.end());
+  const std::string text =
+      done.empty() ? std::string("Nothing was repaired.") : describeChanges(done);
+  message(QMessageBox::Information, QStringLiteral("Attempt Repair"), fromStd(text));
 }
 
 void CertifyWindow::copyResult() {
@@ -558,17 +597,27 @@ void CertifyWindow::convert() {
                                                   fromStd(version3FileName(runState().lasFile)),
                                                   QStringLiteral("Log Ascii Standard (*.las)"));
   if (output.isEmpty()) return;
-  const LogSectionTitles titles = logOpt_->checkedId() == 1 ? LogSectionTitles::LogPrefixed
-                                                            : LogSectionTitles::ParameterCurveAscii;
-  const char delimiters[] = {',', ' ', '\t'};
-  const char delimiter = delimiters[std::clamp(dlmOpt_->checkedId(), 0, 2)];
-  if (!convertToVersion3(runState().lasFile, toStd(output), titles, delimiter)) {
+  ConvertRequest request;
+  request.input = runState().lasFile;
+  request.output = toStd(output);
+  request.titles = logOpt_->checkedId() == 1 ? LogSectionTitles::LogPrefixed
+                                             : LogSectionTitles::ParameterCurveAscii;
+  const DataDelimiter delimiters[] = {DataDelimiter::Comma, DataDelimiter::Space,
+                                      DataDelimiter::Tab};
+  request.delimiter = delimiters[std::clamp(dlmOpt_->checkedId(), 0, 2)];
+  request.workFolder = programFolder();
+  const ConvertResult result = convertFile(request);
+  if (result.outcome != ConvertOutcome::Written) {
     message(QMessageBox::Critical, QStringLiteral("Error Attempting Conversion"),
             QStringLiteral("An unexpected error happened during attempted conversion."));
     return;
   }
   message(QMessageBox::Information, QStringLiteral("Convert!"),
-          QStringLiteral("The version 3.0 file was written to %1").arg(output));
+          QStringLiteral("The version 3.0 file was written to %1\n\n%2")
+              .arg(output, fromStd(describeChanges(result.changes))));
+  // The converted file becomes the current one, so its certification is what the window shows.
+  runState().lasFile = result.output;
+  doCertifyWork();
 }
 
 void CertifyWindow::testNow() {
