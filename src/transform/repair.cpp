@@ -535,4 +535,27 @@ RepairResult repairFile(const RepairRequest& request) {
   return result;
 }
 
+RepairResult repairInRounds(RepairRequest request, const CertifyForRepair& certify, int maxRounds) {
+  RepairResult all;
+  all.outcome = RepairOutcome::NothingRepaired;
+  if (!request.found) request.found = certify();
+  std::vector<Change> left;
+  for (int round = 0; round < maxRounds && request.found; ++round) {
+    RepairResult result = repairFile(request);
+    if (result.outcome == RepairOutcome::Failed) {
+      all.outcome = RepairOutcome::Failed;
+      all.error = result.error;
+      return all;
+    }
+    left.clear();
+    for (Change& c : result.changes)
+      (c.kind == ChangeKind::NotRepaired ? left : all.changes).push_back(std::move(c));
+    if (result.outcome != RepairOutcome::Repaired) break;
+    all.outcome = RepairOutcome::Repaired;
+    request.found = certify();
+  }
+  all.changes.insert(all.changes.end(), left.begin(), left.end());
+  return all;
+}
+
 }  // namespace zorvik

@@ -47,6 +47,16 @@ struct RepairResult {
 
 RepairResult repairFile(const RepairRequest& request);
 
+// Certification stops at the first failing group, so one repair can bring later faults to light.
+// Repairs in rounds: the rows of `request.found` (or of a first certification when unset) are
+// repaired, the file is certified again by `certify` (which gives back the failing rows, or
+// nothing for a file that is not 1.2/2.0), and so on until a round repairs nothing. The result
+// lists every change of every round and the faults left after the last one; it is Failed when a
+// round failed (earlier rounds stay done).
+using CertifyForRepair = std::function<std::optional<std::vector<CheckRow>>()>;
+RepairResult repairInRounds(RepairRequest request, const CertifyForRepair& certify,
+                            int maxRounds = 5);
+
 // The rows of a 1.2/2.0 check table that hold findings (a lone blank, "not reached", is none).
 std::vector<CheckRow> failingRows(const CheckTable& table);
 

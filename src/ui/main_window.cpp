@@ -45,10 +45,6 @@ namespace zorvik {
 
 namespace {
 
-// Each round of a repair may bring to light faults that the certification before it could not
-// reach; a handful of rounds covers every group the repairs touch.
-constexpr int MAX_REPAIR_ROUNDS = 5;
-
 QString fromStd(const std::string& text) {
   return QString::fromStdString(text);
 }
@@ -528,37 +524,26 @@ void CertifyWindow::attemptRepair() {
     return *units;
   };
 
-  // Certification stops at the first failing group, so a repair can bring later faults to light:
-  // each round repairs what the last certification found and certifies again.
-  std::vector<Change> done;
-  std::vector<Change> left;
-  bool failed = false;
-  for (int round = 0; round < MAX_REPAIR_ROUNDS && !isVersion3(); ++round) {
-    request.found = failingRows(state.table2);
-    RepairResult result;
-    try {
-      result = repairFile(request);
-    } catch (const std::exception&) {
-      result.outcome = RepairOutcome::Failed;
-    }
-    if (result.outcome == RepairOutcome::Failed) {
-      failed = true;
-      break;
-    }
-    left.clear();
-    for (Change& c : result.changes)
-      (c.kind == ChangeKind::NotRepaired ? left : done).push_back(std::move(c));
-    if (result.outcome != RepairOutcome::Repaired) break;
-    state.repairChoice = 2;
-    showOptionStates();
-    runInteractive();
+  // The grid shows the certification of the file as it is: its failing rows start the rounds.
+  if (!isVersion3()) request.found = failingRows(state.table2);
+  RepairResult result;
+  try {
+    result = repairInRounds(request, [this, &state]() -> std::optional<std::vector<CheckRow>> {
+      state.repairChoice = 2;
+      showOptionStates();
+      runInteractive();
+      if (isVersion3()) return std::nullopt;
+      return failingRows(state.table2);
+    });
+  } catch (const std::exception&) {
+    result.outcome = RepairOutcome::Failed;
   }
-  if (failed) {
+  if (result.outcome == RepairOutcome::Failed) {
     message(QMessageBox::Critical, QStringLiteral("Error Attempting Repair"),
             QStringLiteral("An unexpected error happened during attempted repair."));
     return;
   }
-  done.insert(done.end(), left.begin(), left.end());
+  const std::vector<Change>& done = result.changes;
   const std::string text =
       done.empty() ? std::string("Nothing was repaired.") : describeChanges(done);
   message(QMessageBox::Information, QStringLiteral("Attempt Repair"), fromStd(text));

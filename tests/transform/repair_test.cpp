@@ -197,6 +197,35 @@ TEST(RepairFile, EachRepairFixesItsRowAndChangesOnlyTheListedLines) {
   }
 }
 
+// A fault behind an earlier failing group is reached in a later round; every round's changes are
+// listed.
+TEST(RepairInRounds, RepairsWhatEachCertificationBringsToLight) {
+  RunSandbox sandbox;
+  std::string faulty =
+      withLine(kBase, " WRAP.                  NO : One line per depth step\r\n", "");
+  faulty = withLine(faulty, "1501.50 : STOP", "1502.50 : STOP");
+  faulty = replaceAll(faulty, "\r\n", "\n");
+  const std::string path = sandbox.dir().write("well.las", faulty);
+  int certifications = 0;
+  RepairRequest request;
+  request.file = path;
+  const RepairResult result =
+      repairInRounds(request, [&]() -> std::optional<std::vector<CheckRow>> {
+        ++certifications;
+        return certify(path).rows;
+      });
+  EXPECT_EQ(result.outcome, RepairOutcome::Repaired);
+  std::vector<std::pair<ChangeKind, CheckRow>> listed;
+  for (const Change& c : result.changes) listed.emplace_back(c.kind, c.row);
+  const std::vector<std::pair<ChangeKind, CheckRow>> expected = {
+      {ChangeKind::Changed, {1, 4}},
+      {ChangeKind::Added, {2, 3}},
+      {ChangeKind::Changed, {6, 3}},
+  };
+  EXPECT_EQ(listed, expected) << describeChanges(result.changes);
+  EXPECT_EQ(certifications, 4);  // before, after each of the three repairing rounds
+}
+
 TEST(RepairFile, PassingFilesAreLeftByteForByte) {
   std::vector<std::pair<std::string, std::string>> inputs = {{"base.las", kBase}};
   for (const char* name : {"example_12.las", "example_20.las", "example_20_wrapped.las"})

@@ -14,6 +14,9 @@
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -69,8 +72,13 @@ class WindowTest : public ::testing::Test {
       return answer;
     };
     s.chooseLasFile = [this](QWidget*, const QString&) { return lasFileToOpen; };
-    s.chooseSaveFile = [this](QWidget*, const QString&, const QString&, const QString&) {
+    s.chooseSaveFile = [this](QWidget*, const QString&, const QString& proposed, const QString&) {
+      proposedSaveFile = proposed;
       return saveFileAnswer;
+    };
+    s.askText = [this](QWidget*, const QString&, const QString& prompt) {
+      textPrompts << prompt;
+      return textAnswer;
     };
     s.hasPrinter = [] { return false; };
     return s;
@@ -103,6 +111,9 @@ class WindowTest : public ::testing::Test {
   std::deque<QMessageBox::StandardButton> answers;
   QString lasFileToOpen;
   QString saveFileAnswer;
+  QString proposedSaveFile;
+  QStringList textPrompts;
+  QString textAnswer;
   std::unique_ptr<CertifyWindow> window;
   std::unique_ptr<QAbstractItemModelTester> modelTester;
 };
@@ -355,6 +366,125 @@ TEST_F(WindowTest, ClosingSavesTheSettingsThatTheNextBatchRunReads) {
 
 // Not run with the tests: tools/screenshot.sh runs it under Xvfb to picture the window for the
 // README after certifying an example file.
+// Repair from the button or the menu: a Yes/No box naming the file, then repair-and-certify
+// rounds, the grid of the last certification and the change list in a box.
+TEST_F(WindowTest, RepairAsksNamingTheFileThenCertifiesAndListsTheChanges) {
+  const char* passed = "P:PPPPPP P:PPPPPP P:PPP P:PPPPPPP P:PP P:PPPPPPP P:PPP";
+  struct Row {
+    const char* fixture;
+    const char* command;
+    QMessageBox::StandardButton answer;
+    bool changed;
+    const char* marks;
+    const char* listed;  // in the text of the last box
+  };
+  const Row rows[] = {
+      {"lf_only_20.las", "tBut_2", QMessageBox::Yes, true, passed, "(check 1.4): line ends"},
+      {"no_wrap_20.las", "opt_M_3", QMessageBox::Yes, true, passed,
+       "(check 2.3): ~Version line added"},
+      {"lf_only_20.las", "tBut_2", QMessageBox::No, false,
+       "F:PPPFPP N:NNNNNN N:NNN N:NNNNNNN N:NN N:NNNNNNN N:NNN", nullptr},
+      {"pass_20.las", "opt_M_3", QMessageBox::Yes, false, passed, "Nothing was repaired."},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(std::string(row.fixture) + " " + row.command);
+    const std::string las = openFixture(row.fixture);
+    const QByteArray before = [&] {
+      QFile f(QString::fromStdString(las));
+      return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    }();
+    messages.clear();
+    answers = {row.answer};
+    if (std::string(row.command) == "tBut_2") {
+      child<QPushButton>(row.command)->click();
+    } else {
+      trigger(row.command);
+    }
+    ASSERT_FALSE(messages.empty());
+    EXPECT_EQ(messages[0].title, "Attempt Repair");
+    EXPECT_EQ(messages[0].buttons, QMessageBox::Yes | QMessageBox::No);
+    EXPECT_TRUE(messages[0].text.contains(QString::fromStdString(las)));
+    QFile f(QString::fromStdString(las));
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    EXPECT_EQ(f.readAll() != before, row.changed);
+    EXPECT_EQ(gridMarks(*window->resultModel()), row.marks);
+    if (row.listed == nullptr) {
+      EXPECT_EQ(messages.size(), 1u);
+    } else {
+      ASSERT_EQ(messages.size(), 2u);
+      EXPECT_EQ(messages[1].title, "Attempt Repair");
+      EXPECT_TRUE(messages[1].text.contains(QString::fromLatin1(row.listed)))
+          << messages[1].text.toStdString();
+    }
+  }
+  EXPECT_TRUE(textPrompts.isEmpty());
+}
+
+TEST_F(WindowTest, RepairAsksForTheIndexUnitsOnlyWhenTheIndexChannelHasNone) {
+  QFile source(QStringLiteral(ZORVIK_TEST_DATA "/ui/pass_20.las"));
+  ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+  QString text = QString::fromLatin1(source.readAll());
+  text.remove(QRegularExpression(QStringLiteral(" ?STRT\\.[^\\r]*\\r\\n")));
+  text.replace(QRegularExpression(QStringLiteral("DEPT\\.\\S+")), QStringLiteral("DEPT. "));
+  const QString path = QDir(scratch.path()).filePath(QStringLiteral("no_units.las"));
+  QFile out(path);
+  ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+  out.write(text.toLatin1());
+  out.close();
+  openFixture(path);
+  answers = {QMessageBox::Yes};
+  textAnswer = QStringLiteral("FT");
+  trigger("opt_M_3");
+  EXPECT_EQ(textPrompts,
+            QStringList{QStringLiteral("Please enter the index units (FT, M, S etc)")});
+  ASSERT_FALSE(messages.empty());
+  EXPECT_TRUE(messages.back().text.contains(QStringLiteral("STRT.FT")))
+      << messages.back().text.toStdString();
+}
+
+// Convert! proposes the "_ver3.las" name, converts with the Conversions tab's options and
+// certifies the new file, which becomes the current one.
+TEST_F(WindowTest, ConvertWritesTheChosenNameWithTheTabsOptionsAndCertifiesIt) {
+  const std::string las = openFixture("pass_20.las");
+  const QString output = QDir(scratch.path()).filePath(QStringLiteral("data/converted.las"));
+  struct Row {
+    QString answer;  // empty: the save dialog is cancelled
+    const char* delimiter;
+    const char* title;
+  };
+  const Row rows[] = {{QString(), "dlmOpt_0", "logOpt_1"},
+                      {output, "dlmOpt_2", "logOpt_1"},
+                      {output, "dlmOpt_0", "logOpt_0"}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.answer.toStdString() + " " + row.delimiter + " " + row.title);
+    runState().lasFile = las;
+    messages.clear();
+    saveFileAnswer = row.answer;
+    child<QRadioButton>(row.delimiter)->setChecked(true);
+    child<QRadioButton>(row.title)->setChecked(true);
+    child<QPushButton>("cnvBut")->click();
+    EXPECT_EQ(proposedSaveFile.toStdString(), las.substr(0, las.size() - 4) + "_ver3.las");
+    if (row.answer.isEmpty()) {
+      EXPECT_TRUE(messages.empty());
+      EXPECT_FALSE(QFile::exists(output));
+      continue;
+    }
+    ASSERT_EQ(messages.size(), 1u);
+    EXPECT_EQ(messages[0].title, "Convert!");
+    EXPECT_EQ(runState().lasFile, output.toStdString());
+    EXPECT_EQ(window->windowTitle(), "Zorvik (" + output + ")");
+    EXPECT_EQ(gridMarks(*window->resultModel()),
+              "P:PPPPPPP P:PPPPPPPPP P:PPPPPPPPPPPPPP P:PPPPPPPPPPP P:PPPPPP P:PPPPPPP P:PPP P:PP "
+              "P:PPPPP");
+    QFile f(output);
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    const QByteArray bytes = f.readAll();
+    EXPECT_EQ(bytes.contains("~Log_Data | Log_Definition"), std::string(row.title) == "logOpt_1");
+    EXPECT_EQ(bytes.contains("TAB : Data item delimiter"),
+              std::string(row.delimiter) == "dlmOpt_2");
+  }
+}
+
 TEST_F(WindowTest, DISABLED_Screenshot) {
   window->resize(960, 680);
   openFixture(qEnvironmentVariable("ZORVIK_SCREENSHOT_LAS", ZORVIK_EXAMPLES "/example_30.las"));
