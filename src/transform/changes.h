@@ -8,10 +8,10 @@
 namespace zorvik {
 
 // A row of the 1.2/2.0 check catalogue: the group and the check number within it.
-struct CheckRow {
+struct CatalogueRow {
   int group = 0;
   int row = 0;
-  friend bool operator==(const CheckRow&, const CheckRow&) = default;
+  friend bool operator==(const CatalogueRow&, const CatalogueRow&) = default;
 };
 
 enum class ChangeKind {
@@ -26,7 +26,7 @@ enum class ChangeKind {
 struct Change {
   ChangeKind kind = ChangeKind::Changed;
   std::int64_t line = 0;  // 1-based line of the input; 0 for the file as a whole
-  CheckRow row;           // the check row that found the fault, {0, 0} for none
+  CatalogueRow row;       // the check row that found the fault, {0, 0} for none
   std::string what;
   std::string before;
   std::string after;

@@ -1,6 +1,6 @@
 // Repair of the common faults of 1.2/2.0 files, each tied to the check row that finds it: line
-// ends, tabs and blanks in header lines, missing ~Version and ~Well lines, and STRT/STOP/STEP
-// values that disagree with the data. Data value texts are never changed.
+// ends, tabs (between data values too), blanks before a title's tilde, missing ~Version and ~Well
+// lines, and STRT/STOP/STEP values that disagree with the data. Data value texts never change.
 //
 // The file is read twice line by line and written once through the replacing writer: only the
 // header and a few facts of the data are held in memory.
@@ -25,7 +25,7 @@ struct RepairRequest {
   std::string output;
   // The rows certification found failing: a repair runs only when its row is among them. Unset:
   // every repair whose fault is present runs.
-  std::optional<std::vector<CheckRow>> found;
+  std::optional<std::vector<CatalogueRow>> found;
   // Asked for the index unit when ~Well lines with units are missing and the index channel has
   // none; an empty answer (or no function) skips those lines.
   std::function<std::string(const std::string& prompt)> askIndexUnits;
@@ -53,14 +53,15 @@ RepairResult repairFile(const RepairRequest& request);
 // nothing for a file that is not 1.2/2.0), and so on until a round repairs nothing. The result
 // lists every change of every round and the faults left after the last one; it is Failed when a
 // round failed (earlier rounds stay done).
-using CertifyForRepair = std::function<std::optional<std::vector<CheckRow>>()>;
+using CertifyForRepair = std::function<std::optional<std::vector<CatalogueRow>>()>;
 RepairResult repairInRounds(RepairRequest request, const CertifyForRepair& certify,
                             int maxRounds = 5);
 
-// The rows of a 1.2/2.0 check table that hold findings (a lone blank, "not reached", is none).
-std::vector<CheckRow> failingRows(const CheckTable& table);
+// The rows of a 1.2/2.0 check table that hold findings (a lone blank, "not reached", is none,
+// except in the content check of group 1, where it marks the failure).
+std::vector<CatalogueRow> failingRows(const CheckTable& table);
 
 // The rows the repairs are tied to.
-bool isRepairableRow(CheckRow row);
+bool isRepairableRow(CatalogueRow row);
 
 }  // namespace zorvik

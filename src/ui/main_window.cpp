@@ -528,7 +528,7 @@ void CertifyWindow::attemptRepair() {
   if (!isVersion3()) request.found = failingRows(state.table2);
   RepairResult result;
   try {
-    result = repairInRounds(request, [this, &state]() -> std::optional<std::vector<CheckRow>> {
+    result = repairInRounds(request, [this, &state]() -> std::optional<std::vector<CatalogueRow>> {
       state.repairChoice = 2;
       showOptionStates();
       runInteractive();
