@@ -294,15 +294,5 @@ TEST(ConvertFile, FailuresWriteNothingAndLeaveTheInputAlone) {
   }
 }
 
-TEST(ConvertFile, ProposedNameReplacesOnlyTheFileNamesExtension) {
-  const std::pair<std::string, std::string> rows[] = {
-      {"/data/well.las", "/data/well_ver3.las"},
-      {"/data/well.LAS", "/data/well_ver3.las"},
-      {"/data.v2/well", "/data.v2/well_ver3.las"},
-      {"well.tar.las", "well.tar_ver3.las"},
-  };
-  for (const auto& [input, expected] : rows) EXPECT_EQ(version3FileName(input), expected);
-}
-
 }  // namespace
 }  // namespace zorvik
