@@ -21,7 +21,19 @@ cmake --build build/release -j "$jobs"
 cmake -S . -B build/sanitize -G Ninja -DCMAKE_BUILD_TYPE=Debug -DZORVIK_GUI=OFF -DZORVIK_SANITIZE=ON "${launcher[@]}" >/dev/null
 cmake --build build/sanitize -j "$jobs"
 
+# The tests get a temporary folder of their own; whatever they leave in it fails the run.
+scratch="$PWD/build/test-tmp"
+rm -rf "$scratch"
+mkdir -p "$scratch"
 echo "== sanitizer build"
-ctest --test-dir build/sanitize --output-on-failure -j "$jobs"
+TMPDIR="$scratch" ctest --test-dir build/sanitize --output-on-failure -j "$jobs"
 echo "== normal build"
-ctest --test-dir build/release --output-on-failure -j "$jobs"
+TMPDIR="$scratch" ctest --test-dir build/release --output-on-failure -j "$jobs"
+# Qt makes its runtime folder there when the session has none; that one is not the tests' doing.
+left=$(find "$scratch" -mindepth 1 -maxdepth 1 ! -name 'runtime-*')
+if [ -n "$left" ]; then
+  echo "The tests left files behind in $scratch:" >&2
+  echo "$left" >&2
+  exit 1
+fi
+rm -rf "$scratch"

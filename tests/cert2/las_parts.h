@@ -10,7 +10,7 @@
 #include "las/header_line.h"
 #include "las/sections.h"
 #include "run/run_state.h"
-#include "support/scratch_files.h"
+#include "support/scratch.h"
 
 namespace zorvik::testing {
 

@@ -4,7 +4,6 @@
 
 #include "checks/check_table.h"
 #include "support/scratch.h"
-#include "support/scratch_files.h"
 
 namespace zorvik {
 namespace {

@@ -7,7 +7,7 @@
 #include <tuple>
 #include <vector>
 
-#include "support/scratch_files.h"
+#include "support/scratch.h"
 
 namespace zorvik {
 namespace {

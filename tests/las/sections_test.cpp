@@ -8,7 +8,7 @@
 #include "las/text.h"
 #include "run/run_state.h"
 #include "support/batch_run.h"
-#include "support/scratch_files.h"
+#include "support/scratch.h"
 
 namespace zorvik {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "las/sections.h"
 #include "run/run_state.h"
-#include "support/scratch_files.h"
+#include "support/scratch.h"
 
 namespace zorvik {
 namespace {

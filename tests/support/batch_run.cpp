@@ -3,11 +3,15 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cctype>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <vector>
+
+#include "support/scratch.h"
 
 namespace fs = std::filesystem;
 
@@ -18,14 +22,6 @@ namespace {
 void writeBytes(const fs::path& path, const std::string& bytes) {
   std::ofstream out(path, std::ios::binary | std::ios::trunc);
   out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-}
-
-fs::path makeScratchFolder() {
-  std::string pattern = (fs::temp_directory_path() / "zorvik-batch-XXXXXX").string();
-  std::vector<char> buffer(pattern.begin(), pattern.end());
-  buffer.push_back('\0');
-  if (mkdtemp(buffer.data()) == nullptr) return {};
-  return fs::path(buffer.data());
 }
 
 // The program keeps command.log beside itself, so each run gets its own link (or copy) of the
@@ -98,8 +94,9 @@ std::string readBytes(const std::string& path) {
 
 BatchResult certifyInBatch(const std::string& lasPath, bool wrapChecks) {
   BatchResult result;
-  fs::path scratch = makeScratchFolder();
-  if (scratch.empty()) return result;
+  const ScratchDir dir;
+  if (dir.path().empty()) return result;
+  const fs::path scratch = dir.path();
 
   fs::path exe = placeExecutable(scratch);
   fs::path work = scratch / "work";
@@ -122,7 +119,6 @@ BatchResult certifyInBatch(const std::string& lasPath, bool wrapChecks) {
   result.reportWritten = fs::exists(logFile);
   result.report = normaliseDate(readBytes(logFile.string()));
   result.commandLog = readBytes((exe.parent_path() / "command.log").string());
-  fs::remove_all(scratch, ec);
   return result;
 }
 
@@ -164,6 +160,21 @@ std::string pinnedReport(std::string report, const std::string& folder) {
        at = report.find(folder, at + 5))
     report.replace(at, folder.size(), "<dir>");
   return report;
+}
+
+std::vector<std::string> stemsIn(const std::string& folder, const std::string& extension) {
+  std::vector<std::string> stems;
+  std::error_code ec;
+  for (const auto& entry : fs::directory_iterator(folder, ec))
+    if (entry.path().extension() == extension) stems.push_back(entry.path().stem().string());
+  std::sort(stems.begin(), stems.end());
+  return stems;
+}
+
+std::string testNameOf(std::string name) {
+  for (char& c : name)
+    if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
+  return name;
 }
 
 std::string reportWithoutFolder(const std::string& report) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace zorvik::testing {
 
@@ -32,5 +33,11 @@ std::string readBytes(const std::string& path);
 // Compares `actual` with the golden file `goldenPath`; when ZORVIK_UPDATE_GOLDEN=1 is set in the
 // environment the golden file is (re)written instead. Returns "" on match, else a diff summary.
 std::string compareWithGolden(const std::string& actual, const std::string& goldenPath);
+
+// The names (without extension) of the files of `folder` ending in `extension`, sorted.
+std::vector<std::string> stemsIn(const std::string& folder, const std::string& extension);
+
+// `name` as a test name: every character other than a letter or digit becomes "_".
+std::string testNameOf(std::string name);
 
 }  // namespace zorvik::testing

@@ -33,6 +33,25 @@ std::string ScratchDir::write(const std::string& name, const std::string& bytes)
   return full;
 }
 
+const ScratchDir& sharedScratch() {
+  static const ScratchDir dir;
+  return dir;
+}
+
+std::string scratchFolder() {
+  return sharedScratch().path();
+}
+
+std::string writeScratchFile(const std::string& name, const std::string& bytes) {
+  return sharedScratch().write(name, bytes);
+}
+
+std::string crlfLines(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += line + "\r\n";
+  return text;
+}
+
 RunSandbox::RunSandbox() {
   const char* home = std::getenv("XDG_CONFIG_HOME");
   hadConfigHome_ = home != nullptr;

@@ -1,9 +1,11 @@
-// A temporary folder for one test, removed with everything in it when the test ends, and an
-// in-process sandbox for run control: the program folder (command.log) and the settings store
-// point into the scratch folder while it lives.
+// Every file a test writes goes into a ScratchDir, which removes itself with everything in it:
+// one per test, or the one shared by a whole test program (removed when the program exits).
+// RunSandbox adds run control: the program folder (command.log) and the settings store point into
+// its scratch folder while it lives.
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace zorvik::testing {
 
@@ -23,6 +25,15 @@ class ScratchDir {
  private:
   std::string path_;
 };
+
+// The scratch folder shared by the tests of this program, made on first use.
+const ScratchDir& sharedScratch();
+std::string scratchFolder();
+// Writes `bytes` as `name` in the shared scratch folder and gives back the full path.
+std::string writeScratchFile(const std::string& name, const std::string& bytes);
+
+// The lines, each ended by CR LF.
+std::string crlfLines(const std::vector<std::string>& lines);
 
 // Run control sandbox: resets the run state, sends command.log to `<scratch>/bin` and the
 // settings store to `<scratch>/config`; restores both afterwards.

@@ -10,7 +10,7 @@
 #include "run/run_state.h"
 #include "support/batch_run.h"
 #include "support/fake_window.h"
-#include "support/scratch_files.h"
+#include "support/scratch.h"
 
 namespace zorvik {
 namespace {
