@@ -86,6 +86,9 @@ TEST(CertifyWork, VersionQuestionsAndCancelsDecideTheCalls) {
     EXPECT_EQ(calls, row.calls);
     EXPECT_EQ(runState().lasVersion, row.version);
     EXPECT_EQ(window.captions.empty() ? "" : window.captions.back(), row.caption);
+    // A 3.0 file is certified by the 3.0 checks, and only a 3.0 file is.
+    EXPECT_EQ(std::count(window.calls.begin(), window.calls.end(), "grid 3.0"),
+              row.version == 3.0f ? 1 : 0);
     EXPECT_FALSE(runState().escapePressed);
     EXPECT_EQ(std::filesystem::exists(log), runState().writeLog);
     if (runState().writeLog) {

@@ -75,6 +75,8 @@ TEST(StartUp, WritesExactlyItsCommandLogEntries) {
       {kWell, "{d}/well.las", "Error: VB Error in main: Subscript out of range. Error #9\n"},
       // Quotes go; the option counts anywhere after the first word, in any letter case.
       {kWell, "\"{d}/well.las\" \"{d}/out.log\" x /w", kRefused, 1},
+      // The option is a word of its own, also when another word follows it.
+      {kWell, "{d}/well.las {d}/out.log /W {d}/more", kRefused, 1},
       // A folder such as "/work" must not read as the option.
       {kWell, "{d}/well.las {d}/out.log /wfolder", kRefused, 0},
       // A certified file, failing or not, adds nothing to the command log.

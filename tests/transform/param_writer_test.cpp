@@ -8,7 +8,7 @@
 
 #include "las/text.h"
 #include "support/batch_run.h"
-#include "support/scratch_files.h"
+#include "support/scratch.h"
 
 namespace zorvik {
 namespace {
@@ -29,6 +29,15 @@ TEST(ReplaceLineValue, KeepsTheLayoutAroundTheValue) {
       // Left-aligned values grow to the right, keeping one blank before the colon.
       {"STOP.M   -999.25   : STOP", "1004.77320", "STOP.M   1004.77320 : STOP"},
       {"WRAP.   YES   : One line per depth", "NO", "WRAP.   NO    : One line per depth"},
+      // Right-aligned means more than one blank before the value and at most one after it, with
+      // or without that blank; otherwise the value is left-aligned.
+      {"STOP.M  -999.25: STOP", "1.5", "STOP.M      1.5: STOP"},
+      {"STOP.M -999.25 : STOP", "1.5", "STOP.M 1.5     : STOP"},
+      {"STOP.M  -999.25  : STOP", "1.5", "STOP.M  1.5      : STOP"},
+      // Too long for the room: one blank stays before the colon.
+      {"STOP.M    -999.25 : STOP", "1004.77320", "STOP.M 1004.77320 : STOP"},
+      // No room at all: the value gets a blank on each side.
+      {"STOP.M: STOP", "1.5", "STOP.M 1.5 : STOP"},
       // No value yet: one blank after the unit.
       {"STOP.M      : STOP", "1000", "STOP.M 1000 : STOP"},
       // The delimiting colon is the last one; a colon in the value is part of it.
