@@ -129,6 +129,15 @@ FIXTURES = {
         ascii=data(["1200.00", "1200.15", "1200.30", "1200.45", "1200.60", "1200.75"])),
     "g6_rounding": las(ascii=data(["1200.00000", "1200.25000", "1200.49999", "1200.75000",
                                    "1201.00000", "1201.25000"])),
+    # STEP 1.0 has the tolerance 1: an increment of 2 is exactly at it, a rounding question.
+    "g6_step_at_tolerance": las(
+        well=replaced(replaced(WELL, "STEP.", " STEP.M         1.0                         : STEP"),
+                      "STOP.", " STOP.M         1206.0000                   : STOP DEPTH"),
+        ascii=data(["1200.0000", "1201.0000", "1202.0000", "1203.0000", "1204.0000",
+                    "1206.0000"])),
+    # STOP is compared to five decimals: the fifth counts, the sixth does not.
+    "g6_stop_fifth_decimal": las(well=replaced(WELL, "STOP.", " STOP.M         1201.25001                  : STOP DEPTH")),
+    "g6_stop_sixth_decimal_passes": las(well=replaced(WELL, "STOP.", " STOP.M         1201.250004                 : STOP DEPTH")),
     "g6_units": las(well=replaced(WELL, "STEP.", " STEP.F         0.2500                      : STEP")),
     "g6_single_record": las(
         well=replaced(replaced(WELL, "STRT.", " STRT.M         1670.0000                   : START DEPTH"),

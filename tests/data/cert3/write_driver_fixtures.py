@@ -123,6 +123,7 @@ FIXTURES = {
     "g2_wrap_missing": drop(base(), "WRAP."),
     "g2_dlm_missing": drop(base(), "DLM ."),
     "g2_vers_value": replace(base(), "VERS.", ["VERS.   3.0E0 : EXPONENT IS NOT ALLOWED"]),
+    "g2_vers_value_lowercase": replace(base(), "VERS.", ["VERS.   3.0e0 : EXPONENT IN LOWER CASE"]),
     "g2_wrap_value": replace(base(), "WRAP.", ["WRAP.   YES   : WRAPPED"]),
     "g2_dlm_value": replace(base(), "DLM .", ["DLM .   SEMICOLON : NOT A 3.0 DELIMITER"]),
     "g2_order": replace(
@@ -131,6 +132,11 @@ FIXTURES = {
          "PROD.   ZORVIK : PRODUCER",
          "CREA.   TODAY  : CREATED",
          "DLM .   COMMA : DELIMITER IN FIFTH PLACE"]),
+    "g2_order_fourth": replace(
+        drop(base(), "DLM ."), "WRAP.",
+        ["WRAP.   NO    : ONE LINE PER DEPTH STEP",
+         "PROD.   ZORVIK : PRODUCER",
+         "DLM .   COMMA : DELIMITER IN FOURTH PLACE"]),
     "g2_duplicate": replace(
         base(), "WRAP.",
         ["WRAP.   NO    : ONE LINE PER DEPTH STEP", "WRAP.   NO    : ONCE MORE"]),
@@ -158,11 +164,13 @@ FIXTURES = {
         + section(log_set(1), "~Log_Data")),
     "g3_index_on_parameter": replace(base(), "~Parameter", ["~Parameter[1]"]),
     "g3_identical_titles": log_sets(log_set(1), log_set(2, 1)),
+    "g3_index_zero": log_sets(log_set(1, 0)),
     "g3_index_gap": log_sets(log_set(1, 1), log_set(3, 3)),
     # Group 5: ~Well.
     "g5_required_missing": drop(drop(base(), "SRVC."), "FLD ."),
     "g5_ctry_missing": drop(base(), "CTRY."),
     "g5_ctry_length": replace(base(), "CTRY.", ["CTRY.    CAN                  : COUNTRY"]),
+    "g5_ctry_one_letter": replace(base(), "CTRY.", ["CTRY.    C                    : COUNTRY"]),
     "g5_ctry_letters": replace(base(), "CTRY.", ["CTRY.    C1                   : COUNTRY"]),
     "g5_ctry_requirements": replace(
         drop(drop(drop(base(), "PROV."), "UWI ."), "LIC ."), "CTRY.",

@@ -114,6 +114,13 @@ def fixtures():
                   '1001.0  48.7  0.31  "coarse  sand"']
     yield "g7_quoted_space_passes", s
 
+    # An empty quoted item between two others is an item of its own: passes.
+    q = base("SPACE")
+    q = replace(q, "GR  .GAPI", ["GR  .GAPI                     : GAMMA RAY {F} | BS",
+                                 "LITH.                         : LITHOLOGY {S}"])
+    q = q[:-3] + ['1000.0 45.2 "sand" 0.25', '1000.5 50.1 "" 0.27', '1001.0 48.7 shale 0.31']
+    yield "g7_quoted_empty_passes", q
+
     yield "g8_reference_missing", replace(
         b, "NPHI.V/V", ["NPHI.V/V                      : NEUTRON POROSITY {F} | BS,CASING"])
     yield "g8_self_reference", replace(b, "BS  .MM", ["BS  .MM   215.9               : BIT SIZE {F} | BS"])
@@ -157,6 +164,16 @@ def fixtures():
         "NMR[1].ms                     : T2 BIN 1 {AF;0.5}",
         "NMR[2].us                     : T2 BIN 2 {AF;0.5}",
         "NMR[3].ms                     : T2 BIN 3 {AF;0.5}"], three)
+    yield "g9_units_case", with_array([
+        "NMR[1].ms                     : T2 BIN 1 {AF;0.5}",
+        "NMR[2].MS                     : T2 BIN 2 {AF;0.5}",
+        "NMR[3].ms                     : T2 BIN 3 {AF;0.5}"], three)
+    yield "g9_repeated_index", with_array([
+        "NMR[1].ms                     : T2 BIN 1 {AF;0.5}",
+        "NMR[2].ms                     : T2 BIN 2 {AF;0.5}",
+        "NMR[2].ms                     : T2 BIN 2 AGAIN {AF;0.5}",
+        "NMR[3].ms                     : T2 BIN 3 {AF;0.5}"],
+        [r + ",4.4" for r in three])
 
 
 def main():
