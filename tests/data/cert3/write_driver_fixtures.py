@@ -192,6 +192,12 @@ FIXTURES = {
     "g6_skipped_without_standard_sections": replace(
         log_sets([line.replace("Log_", "Core_") for line in log_set(1)]), "STRT.",
         ["STRT.M   999.500              : START DEPTH"]),
+    # One data record, then another set: the last index is read up to the next title only, so
+    # STOP is compared with that one record and not with the other set's data.
+    "g6_single_record_then_section": log_sets(
+        log_set(1)[:-4],
+        ["~Core_Definition", "CDEP.M : CORE DEPTH {F8.3}", "CPOR.% : CORE POROSITY {F}",
+         "~Core_Data | Core_Definition", "1001.500,12.5", "1002.000,13.1"]),
     "g6_units": replace(base(), "STEP.", ["STEP.FT  0.500                : STEP"]),
 }
 
