@@ -5,14 +5,13 @@
 #
 #   bench/bench_certify.sh [--sizes "50 500"] [--runs 5] [--dir SCRATCH] [--kinds "plain wrap v3"]
 #
-# The files are written by gen_las.py (GEN_LAS, default ../shared/tools/gen_las.py beside the
-# repository, or two levels up from a worktree) with 20 curves and kept in SCRATCH when one is given. A Release build goes to
-# build-release/.
+# Runs from a clean clone: installs what is missing (build tools, python3, bc, GNU time), builds
+# the program without the window in Release mode into build/bench/, and writes the files with
+# bench/make_las.py (20 curves) into SCRATCH, a temporary folder removed at the end unless --dir
+# names one to keep them in. Sizes are in MB (10**6 bytes).
 set -euo pipefail
 
 ROOT="$(cd "$(dirname "$0")/.." && pwd)"
-GEN_LAS="${GEN_LAS:-$ROOT/../shared/tools/gen_las.py}"
-[[ -f "$GEN_LAS" ]] || GEN_LAS="$ROOT/../../shared/tools/gen_las.py"  # from a worktree
 SIZES="50 500"
 RUNS=5
 DIR=""
@@ -27,16 +26,20 @@ while [[ $# -gt 0 ]]; do
   esac
 done
 
-cmake -S "$ROOT" -B "$ROOT/build-release" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+ZORVIK_GUI=OFF ZORVIK_BENCH_TOOLS=ON "$ROOT/tools/ensure_deps.sh"
+BUILD="$ROOT/build/bench"
+echo "Building zorvik (Release, without the window) in $BUILD"
+cmake -S "$ROOT" -B "$BUILD" -G Ninja -DCMAKE_BUILD_TYPE=Release -DZORVIK_GUI=OFF \
   -DZORVIK_TESTS=OFF >/dev/null
-ninja -C "$ROOT/build-release" -j2 zorvik >/dev/null
-EXE="$ROOT/build-release/src/zorvik"
+cmake --build "$BUILD" -j2 --target zorvik >/dev/null
+EXE="$BUILD/src/zorvik"
 
 if [[ -z "$DIR" ]]; then
   DIR="$(mktemp -d "${TMPDIR:-/tmp}/zorvik-bench-XXXXXX")"
   trap 'rm -rf "$DIR"' EXIT
 fi
 mkdir -p "$DIR/config/Zorvik"
+echo "Files in $DIR; $(nproc) cores, load average $(cut -d' ' -f1-3 /proc/loadavg), $(date -u +%F)"
 export XDG_CONFIG_HOME="$DIR/config"
 
 seconds() {  # wall-clock seconds of one command, output discarded
@@ -65,10 +68,7 @@ printf '%-22s %8s %8s %7s %8s %8s %7s %8s  %s\n' file "wc wall" "zv wall" ratio 
 for MB in $SIZES; do
   for KIND in $KINDS; do
     LAS="$DIR/big_${MB}mb_${KIND}.las"
-    FLAGS=()
-    [[ "$KIND" == wrap ]] && FLAGS=(--wrap)
-    [[ "$KIND" == v3 ]] && FLAGS=(--v3)
-    [[ -f "$LAS" ]] || python3 "$GEN_LAS" "$LAS" --mb "$MB" --curves 20 "${FLAGS[@]}" >/dev/null 2>&1
+    [[ -f "$LAS" ]] || python3 "$ROOT/bench/make_las.py" "$LAS" --mb "$MB" --kind "$KIND" --curves 20
     # Batch mode runs only for a file name the settings store remembers.
     printf '[Startup]\nlasFile=%s\nwriteLog=0\ndoWrap=0\n' "$LAS" \
       >"$DIR/config/Zorvik/Zorvik.conf"
