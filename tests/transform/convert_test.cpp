@@ -12,7 +12,6 @@
 #include "las/text.h"
 #include "support/batch_run.h"
 #include "support/scratch.h"
-#include "support/scratch_files.h"
 
 namespace zorvik {
 namespace {
