@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages the build needs, once; safe to run again.
 set -euo pipefail
-packages=(cmake ninja-build g++ libgtest-dev libbenchmark-dev pkg-config)
+packages=(cmake ninja-build g++ libgtest-dev libbenchmark-dev pkg-config python3)
 if [ "${ZORVIK_GUI:-ON}" = "ON" ]; then
   packages+=(qt6-base-dev xvfb xauth poppler-utils)
 fi

@@ -22,6 +22,11 @@ std::string executableFolder() {
   return exe.parent_path().string();
 }
 
+std::function<void(const std::string&)>& sink() {
+  static std::function<void(const std::string&)> current;
+  return current;
+}
+
 }  // namespace
 
 std::string programFolder() {
@@ -34,7 +39,15 @@ void setProgramFolder(const std::string& folder) {
   folderOverride() = folder;
 }
 
+void setCommandLogSink(std::function<void(const std::string& message)> next) {
+  sink() = std::move(next);
+}
+
 void writeCommandLog(const std::string& message) {
+  if (sink()) {
+    sink()(message);
+    return;
+  }
   const RunState& state = runState();
   std::string entry = commandLogDate(localNow());
   entry += '\t';

@@ -3,11 +3,16 @@
 // message, each ended by CR LF. Faults while writing are swallowed.
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace zorvik {
 
 void writeCommandLog(const std::string& message);
+
+// While a sink is set, messages go to it instead of command.log: the command-line tool keeps
+// the log for the batch form and the window. An empty sink restores the file.
+void setCommandLogSink(std::function<void(const std::string& message)> sink);
 
 // The folder holding the running executable (where command.log, help and documents live).
 std::string programFolder();

@@ -12,6 +12,7 @@
 #include "run/file_helpers.h"
 #include "run/run_state.h"
 #include "run/settings.h"
+#include "run/tool.h"
 
 namespace zorvik {
 
@@ -64,9 +65,9 @@ bool sameFile(const std::string& a, const std::string& b) {
 // Where the steps of start-up go next.
 enum class Next { Step, WindowMode, Handler };
 
-int showWindow(int argc, char** argv) {
-  if (launcher() != nullptr) return launcher()(argc, argv);
-  std::fputs("zorvik: this build has no window; usage: zorvik FILE.las FILE.log [/W]\n", stderr);
+int showWindow(int argc, char** argv, const std::string& lasFile = "") {
+  if (launcher() != nullptr) return launcher()(argc, argv, lasFile);
+  std::fputs("zorvik: this build has no window; try zorvik --help\n", stderr);
   return 0;
 }
 
@@ -76,7 +77,20 @@ void setWindowLauncher(WindowLauncher registered) {
   launcher() = registered;
 }
 
+int openWindow(int argc, char** argv, const std::string& lasFile) {
+  RunState& state = runState();
+  resetRunState();
+  state.helpFile = programFolder() + "/zorvik.hlp";
+  readSettings();
+  state.batchMode = false;
+  return showWindow(argc, argv, lasFile);
+}
+
 int startUp(int argc, char** argv) {
+  // The tool is decided on the first word as the shell gave it, before anything of the batch
+  // form (command log, settings) is touched.
+  if (argc > 1 && isToolWord(argv[1])) return runTool(argc, argv);
+
   RunState& state = runState();
   const std::vector<std::string> words = commandWordsOf(argc, argv);
   const std::string commandLine = commandLineOf(words);

@@ -1,6 +1,7 @@
 // Registers the main window with start-up, which opens it when the command line is empty.
 // Linked into the program itself, so the registration runs before start-up does.
 #include <QApplication>
+#include <QTimer>
 #include <cstdio>
 
 #include "run/startup.h"
@@ -15,7 +16,7 @@ bool displayAvailable() {
          !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
-int runWindow(int argc, char** argv) {
+int runWindow(int argc, char** argv, const std::string& lasFile) {
   if (!displayAvailable()) {
     std::fputs(
         "zorvik: no display to open the window on; give a LAS file and a log file to "
@@ -27,6 +28,8 @@ int runWindow(int argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("Zorvik"));
   zorvik::CertifyWindow window;
   window.show();
+  if (!lasFile.empty())
+    QTimer::singleShot(0, &window, [&window, &lasFile] { window.openGivenFile(lasFile); });
   return QApplication::exec();
 }
 

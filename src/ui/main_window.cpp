@@ -444,6 +444,13 @@ void CertifyWindow::openLasForCertification() {
   certify(true);
 }
 
+void CertifyWindow::openGivenFile(const std::string& lasFile) {
+  if (certifying_) return;
+  removeTemporaryFiles();
+  runState().lasFile = lasFile;
+  certify(true);
+}
+
 void CertifyWindow::repeatCertification() {
   if (!fileExists(runState().lasFile)) return;
   certify(false);

@@ -55,6 +55,8 @@ class CertifyWindow : public QMainWindow, public WindowOps {
 
  public slots:
   void openLasForCertification();
+  // Certifies `lasFile` as if it had been picked in the open dialog (`zorvik gui FILE`).
+  void openGivenFile(const std::string& lasFile);
   void repeatCertification();
   void editLas();
   void printResult();

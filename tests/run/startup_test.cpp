@@ -167,7 +167,7 @@ int launchedWith = -1;
 
 TEST(StartUp, EmptyCommandLineOpensTheWindowAndLogsNothing) {
   RunSandbox sandbox;
-  setWindowLauncher([](int argc, char**) { return launchedWith = argc; });
+  setWindowLauncher([](int argc, char**, const std::string&) { return launchedWith = argc; });
   EXPECT_EQ(runStartUp(""), 0);
   setWindowLauncher(nullptr);
   EXPECT_EQ(launchedWith, 1);
