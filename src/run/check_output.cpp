@@ -104,7 +104,7 @@ std::string shellWord(std::string_view word) {
   return "'" + replaceAll(word, "'", "'\\''") + "'";
 }
 
-std::string checkLabel(int group, int row) {
+std::string checkNumber(int group, int row) {
   return toText(group) + "." + static_cast<char>('a' + row - 1);
 }
 
@@ -121,7 +121,7 @@ std::string fileLines(const CheckedFile& file) {
   const Finding* first = nullptr;
   for (const CheckOutcome& row : result.rows) {
     if (row.outcome != RowOutcome::Failed) continue;
-    out += "    " + checkLabel(row.group, row.row) + "  " + row.title + ": " +
+    out += "    " + checkNumber(row.group, row.row) + "  " + row.title + ": " +
            countText(row.findings.size(), "finding", "findings") + "\n";
     if (first == nullptr && !row.findings.empty()) first = &row.findings.front();
   }
@@ -183,7 +183,7 @@ std::string jsonDocument(const std::vector<CheckedFile>& files, const CheckTotal
     for (std::size_t r = 0; r < result.rows.size(); ++r) {
       const CheckOutcome& row = result.rows[r];
       out += r == 0 ? "\n" : ",\n";
-      out += "       {\"check\": " + jsonString(checkLabel(row.group, row.row)) +
+      out += "       {\"check\": " + jsonString(checkNumber(row.group, row.row)) +
              ", \"title\": " + jsonString(row.title) +
              ", \"outcome\": " + jsonString(outcomeWord(row.outcome)) + ", \"findings\": [";
       for (std::size_t i = 0; i < row.findings.size(); ++i) {

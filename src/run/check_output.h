@@ -26,7 +26,7 @@ std::string escapeBytes(std::string_view bytes);
 // A word for a POSIX shell: as it is when it holds only safe characters, else in single quotes.
 std::string shellWord(std::string_view word);
 // "1.d": the group number and the row's letter.
-std::string checkLabel(int group, int row);
+std::string checkNumber(int group, int row);
 
 // The verdict line of one file, then (failed files) its failed rows, its first finding and the
 // note or repair hint that goes with it. Every line ends in "\n".

@@ -1,6 +1,7 @@
 #include "run/command_log.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 
 #include "run/clock.h"
@@ -27,7 +28,36 @@ std::function<void(const std::string&)>& sink() {
   return current;
 }
 
+// The per-user state folder's log, created on demand; null when there is no home for it.
+std::FILE* openStateLog() {
+  namespace fs = std::filesystem;
+  const char* state = std::getenv("XDG_STATE_HOME");
+  const char* home = std::getenv("HOME");
+  fs::path base;
+  if (state != nullptr && fs::path(state).is_absolute()) {
+    base = state;
+  } else if (home != nullptr && *home != '\0') {
+    base = fs::path(home) / ".local" / "state";
+  } else {
+    return nullptr;
+  }
+  std::error_code ec;
+  fs::create_directories(base / "zorvik", ec);
+  return std::fopen((base / "zorvik" / "command.log").c_str(), "ab");
+}
+
 }  // namespace
+
+std::string dataFolder() {
+  namespace fs = std::filesystem;
+  const fs::path program(programFolder());
+  if (program.filename() == "bin") {
+    std::error_code ec;
+    fs::path shared = program.parent_path() / "share" / "zorvik";
+    if (fs::is_directory(shared, ec)) return shared.string();
+  }
+  return program.string();
+}
 
 std::string programFolder() {
   if (!folderOverride().empty()) return folderOverride();
@@ -62,6 +92,7 @@ void writeCommandLog(const std::string& message) {
 
   // Opened and closed per entry so that processes writing in turn interleave whole entries.
   std::FILE* file = std::fopen((programFolder() + "/command.log").c_str(), "ab");
+  if (file == nullptr) file = openStateLog();
   if (file == nullptr) return;
   std::fwrite(entry.data(), 1, entry.size(), file);
   std::fclose(file);

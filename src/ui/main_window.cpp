@@ -53,7 +53,7 @@ std::string toStd(const QString& text) {
 }
 
 QString programFile(const QString& relative) {
-  return QDir(fromStd(programFolder())).filePath(relative);
+  return QDir(fromStd(dataFolder())).filePath(relative);
 }
 
 QString repairCaption(int repairChoice) {
@@ -619,7 +619,7 @@ void CertifyWindow::testNow() {
 }
 
 void CertifyWindow::refreshContentTab() {
-  const QDir folder(fromStd(programFolder()));
+  const QDir folder(fromStd(dataFolder()));
   const QStringList files =
       folder.entryList({QStringLiteral("*.def")}, QDir::Files, QDir::Name | QDir::IgnoreCase);
   defFile_->clear();
