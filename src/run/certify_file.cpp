@@ -114,7 +114,12 @@ std::vector<CheckOutcome> rowsOf(const CheckTable& table) {
       if (title.empty()) continue;
       const std::string& result = table.at(row, COL_RESULT, group);
       CheckOutcome outcome{group, row, title, RowOutcome::Passed, {}};
-      if (!reached || result == " ") {
+      if (group == 1 && row == FILE_ASCII && result == " ") {
+        // The content check marks a NUL byte with a lone blank: a failure without words.
+        outcome.outcome = RowOutcome::Failed;
+        outcome.findings.push_back(Finding{"a NUL byte in the first 4096 bytes", 0, ""});
+        groupFailed = true;
+      } else if (!reached || result == " ") {
         outcome.outcome = RowOutcome::NotPerformed;
       } else if (!result.empty()) {
         outcome.outcome = RowOutcome::Failed;

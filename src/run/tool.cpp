@@ -126,14 +126,6 @@ int runHelp(const std::vector<std::string>& words) {
   return EXIT_ALL_PASSED;
 }
 
-// The repair and conversion operations are not part of this build yet; their options are read
-// and checked so that scripts written against the usage fail clearly rather than oddly.
-int notAvailable(std::string_view command) {
-  std::fprintf(stderr, "zorvik %s: not available yet in this build of zorvik\n",
-               std::string(command).c_str());
-  return EXIT_TROUBLE;
-}
-
 std::optional<std::string> oneFile(std::string_view command, const ParsedOptions& options,
                                    int& status) {
   if (options.operands.size() != 1) {
@@ -154,7 +146,8 @@ int runRepair(const std::vector<std::string>& words) {
     return usageError("repair", "--in-place and -o exclude each other");
   if (!options.has("in-place") && !options.has("output"))
     return usageError("repair", "say where the repaired file goes: --in-place or -o OUT");
-  return notAvailable("repair");
+  return repairCommand(*file, options.value("output").value_or(""),
+                       options.value("units").value_or(""));
 }
 
 int runConvert(const std::vector<std::string>& words) {
@@ -169,7 +162,8 @@ int runConvert(const std::vector<std::string>& words) {
   std::string delimiter = options.value("delimiter").value_or("space");
   if (delimiter != "comma" && delimiter != "space" && delimiter != "tab")
     return usageError("convert", "--delimiter takes comma, space or tab, not '" + delimiter + "'");
-  return notAvailable("convert");
+  const char separator = delimiter == "comma" ? ',' : delimiter == "tab" ? '\t' : ' ';
+  return convertCommand(*file, options.value("output").value_or(""), titles == "log", separator);
 }
 
 int runGui(int argc, char** argv, const std::vector<std::string>& words) {

@@ -27,6 +27,15 @@ struct ParsedOptions;
 // `zorvik check [options] PATH...`, its options read.
 int runCheck(const ParsedOptions& options);
 
+// `zorvik repair`: repairs `file` in place (empty `output`) or into `output`, taking `units` as
+// the index units of added ~Well lines (empty: those lines are skipped); prints the changes and
+// the new verdict.
+int repairCommand(const std::string& file, const std::string& output, const std::string& units);
+// `zorvik convert`: writes `file` as 3.0 to `output` (empty: NAME_ver3.las beside it); prints
+// the changes and the verdict of the new file.
+int convertCommand(const std::string& file, const std::string& output, bool logTitles,
+                   char delimiter);
+
 // Prints "zorvik COMMAND: MESSAGE" and where to find help on standard error; answers
 // EXIT_TROUBLE.
 int usageError(std::string_view command, const std::string& message);

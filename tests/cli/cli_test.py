@@ -143,6 +143,30 @@ class Output(Scratch):
         self.assertIn(f"`zorvik repair --in-place '{path}'`", run.stdout.decode())
         self.assertNotIn(b"hint", zorvik("check", FAILING).stdout)
 
+    def test_nul_byte_fails_the_content_row(self):
+        path = self.put("nul.las", transform=lambda d: d.replace(b"~W", b"\0~W", 1))
+        run = zorvik("check", path)
+        self.assertEqual(run.returncode, 1)
+        self.assertIn("1.e  File has pure ASCII structure: 1 finding", run.stdout.decode())
+
+    def test_repair_and_convert_write_files_that_pass(self):
+        lf = self.put("lf.las", transform=lambda d: d.replace(b"\r\n", b"\n"))
+        original = open(lf, "rb").read()
+        run = zorvik("repair", "-o", "fixed.las", "lf.las", cwd=self.dir)
+        self.assertEqual(run.returncode, 0, run.stdout + run.stderr)
+        self.assertIn(b"PASSED  2.0  fixed.las", run.stdout)
+        self.assertEqual(open(lf, "rb").read(), original)
+        run = zorvik("repair", "--in-place", "lf.las", cwd=self.dir)
+        self.assertEqual(run.returncode, 0, run.stdout + run.stderr)
+        self.assertEqual(zorvik("check", lf).returncode, 0)
+        for titles, delimiter in [("plain", "comma"), ("log", "tab")]:
+            with self.subTest(titles=titles, delimiter=delimiter):
+                run = zorvik("convert", "--titles", titles, "--delimiter", delimiter, "lf.las",
+                             cwd=self.dir)
+                self.assertEqual(run.returncode, 0, run.stdout + run.stderr)
+                self.assertIn(b"PASSED  3.0  ", run.stdout)
+                self.assertTrue(os.path.isfile(os.path.join(self.dir, "lf_ver3.las")))
+
     def test_quiet_and_report_dir(self):
         run = zorvik("check", "-q", "--report-dir", "reports", PASSING, FAILING, cwd=self.dir)
         self.assertEqual(len(run.stdout.decode().splitlines()), 1)
