@@ -1,6 +1,7 @@
-// Repairs copies of every 1.2/2.0 file of a folder tree that fails certification, as the window
-// does (certify, repair the rows found, certify again, in rounds), and reports how many pass
-// afterwards and which rows still fail for the others. The originals are only read.
+// Repairs copies of every 1.2/2.0 file of a folder tree that fails
+// certification, as the window does (certify, repair the rows found, certify
+// again, in rounds), and reports how many pass afterwards and which rows still
+// fail for the others. The originals are only read.
 //
 //   repair_corpus CORPUS_FOLDER SCRATCH_FOLDER
 #include <algorithm>
@@ -55,7 +56,7 @@ int main(int argc, char** argv) {
   fs::create_directories(scratch);
   setProgramFolder(scratch.string());
 
-  int failing = 0, passedAfter = 0, lineEnds = 0, lineEndsFixed = 0;
+  int failing = 0, passedAfter = 0, lineEnds = 0, lineEndsFixed = 0, hidden3 = 0;
   std::map<std::string, int> remaining;
   std::vector<fs::path> files;
   for (const auto& entry : fs::recursive_directory_iterator(argv[1]))
@@ -80,6 +81,12 @@ int main(int argc, char** argv) {
           return c.rows;
         });
     const Certified after = certify(copy.string());
+    // A 3.0 file with LF line ends reads as one line, so its version shows only
+    // once repaired.
+    if (isVersion3()) {
+      ++hidden3;
+      continue;
+    }
     const bool lf = has(before.rows, {1, 4});
     lineEnds += lf;
     lineEndsFixed += lf && !has(after.rows, {1, 4});
@@ -93,9 +100,12 @@ int main(int argc, char** argv) {
               << (result.outcome == RepairOutcome::Failed ? " (repair failed)" : "")
               << (left.empty() ? "" : " still:" + left) << "\n";
   }
-  std::cout << "\nfailing 1.2/2.0 files: " << failing << ", passing after repair: " << passedAfter
+  std::cout << "\nfailing 1.2/2.0 files: " << failing - hidden3
+            << ", passing after repair: " << passedAfter
             << "\nfailing line ends (1.4): " << lineEnds << ", of which repaired: " << lineEndsFixed
-            << "\nrows still failing (files):";
+            << "\n3.0 files that read as 1.2/2.0 until their line ends were "
+               "repaired: "
+            << hidden3 << "\nrows still failing (files):";
   for (const auto& [row, count] : remaining) std::cout << " " << row << " (" << count << ")";
   std::cout << "\n";
   fs::remove_all(scratch);
