@@ -1,11 +1,10 @@
 #include "checks/report.h"
 
-#include <cstdio>
-
+#include "base/file_writer.h"
 #include "checks/catalogue.h"
 #include "las/text.h"
 #include "run/clock.h"
-#include "run/file_helpers.h"
+#include "run/command_log.h"
 #include "run/run_state.h"
 
 namespace zorvik {
@@ -91,16 +90,17 @@ std::string buildReport(const CheckTable& table, const std::string& dateText) {
 
 int writeLogFile(const std::string& logFile, const std::string& firstNote,
                  const std::string& secondNote) {
-  if (fileExists(logFile)) std::remove(logFile.c_str());
-  std::FILE* file = std::fopen(logFile.c_str(), "wb");
-  if (file == nullptr) return RUN_FAULT;
   std::string text;
   if (!secondNote.empty()) text += "Note: " + secondNote + kEol + kEol;
   if (!firstNote.empty()) text += firstNote + kEol;
   text += buildReport(reportTable()) + kEol;
-  bool ok = std::fwrite(text.data(), 1, text.size(), file) == text.size();
-  ok = (std::fclose(file) == 0) && ok;
-  return ok ? RUN_COMPLETED : RUN_FAULT;
+  // The previous log file stays whole unless the new one is written completely.
+  if (auto failure = writeFileSafely(logFile, text)) {
+    writeCommandLog("Error: Log file " + logFile +
+                    " could not be written: " + describeWriteError(*failure) + ".");
+    return RUN_FAULT;
+  }
+  return RUN_COMPLETED;
 }
 
 }  // namespace zorvik

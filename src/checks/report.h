@@ -28,8 +28,8 @@ std::string buildReport(const CheckTable& table, const std::string& dateText);
 
 // Replaces `logFile` with the report of the current run: "Note: " + `secondNote` and an empty
 // line when that note is not empty, `firstNote` as a line when not empty, the report and one more
-// line end. Returns RUN_COMPLETED, or RUN_FAULT when the file could not be written (whatever was
-// written stays).
+// line end. Returns RUN_COMPLETED, or RUN_FAULT when the file could not be written: the previous
+// file is then left as it was and the command log says why.
 int writeLogFile(const std::string& logFile, const std::string& firstNote,
                  const std::string& secondNote);
 

@@ -1,9 +1,11 @@
 #include "run/file_helpers.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
-#include <cstdio>
+#include <cerrno>
 
+#include "base/file_writer.h"
 #include "las/text.h"
 
 namespace zorvik {
@@ -42,13 +44,25 @@ bool fileExists(const std::string& name) {
 
 bool logFileWritable(const std::string& name) {
   if (name.empty()) return false;
-  std::FILE* file = std::fopen(name.c_str(), "wb");
-  if (file == nullptr) return false;
-  static const char kLine[] = "Test for good file spec\r\n";
-  bool written = std::fwrite(kLine, 1, sizeof kLine - 1, file) == sizeof kLine - 1;
-  if (std::fclose(file) != 0) written = false;
-  if (!written || !fileExists(name)) return false;
-  return std::remove(name.c_str()) == 0;
+  // Looks without opening anything for output: opening a pipe would wait for a reader, and
+  // truncating would destroy an existing file (or a link's target) before the report is ready.
+  std::string target = resolveDestination(name);
+  if (target.empty()) return false;
+  struct stat info {};
+  if (::stat(target.c_str(), &info) == 0) {
+    if (!S_ISREG(info.st_mode) || ::access(target.c_str(), W_OK) != 0) return false;
+  } else if (errno != ENOENT) {
+    return false;
+  }
+  std::size_t slash = target.find_last_of('/');
+  std::string folder = slash == std::string::npos ? "."
+                       : slash == 0               ? "/"
+                                                  : target.substr(0, slash);
+  if (::stat(folder.c_str(), &info) != 0 || !S_ISDIR(info.st_mode) ||
+      ::access(folder.c_str(), W_OK | X_OK) != 0)
+    return false;
+  // A hidden name never counted as a file that exists, so it never passed.
+  return !hasHiddenName(name);
 }
 
 std::string changeExtension(const std::string& name, const std::string& extension) {

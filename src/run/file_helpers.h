@@ -24,9 +24,9 @@ bool fileExists(const std::string& name);
 // The attribute bits of `name`, or -1 when nothing of that name can be looked at.
 int fileAttributes(const std::string& name);
 
-// Creates (or truncates) `name`, writes one test line, and deletes it again when it then exists
-// as a normal file. True only in that last case; any failure answers false. Careful: an existing
-// file of that name is emptied and removed.
+// True when a log file could be written under `name`: its folder is writable and the name is
+// free or a writable regular file (links followed). Pipes, devices and folders are not writable,
+// nor is a hidden name. Opens nothing, so nothing is created, emptied or waited for.
 bool logFileWritable(const std::string& name);
 
 // `name` cut at the first "." of the file's own name (after the last "/"; folders are never cut)
