@@ -1,9 +1,15 @@
 #include "run/command_log.h"
 
-#include <cstdio>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 
+#include "base/file_writer.h"
 #include "run/clock.h"
 #include "run/run_state.h"
 
@@ -28,8 +34,8 @@ std::function<void(const std::string&)>& sink() {
   return current;
 }
 
-// The per-user state folder's log, created on demand; null when there is no home for it.
-std::FILE* openStateLog() {
+// The per-user state folder's log, its folder created on demand; "" when there is no home for it.
+std::string stateLogPath() {
   namespace fs = std::filesystem;
   const char* state = std::getenv("XDG_STATE_HOME");
   const char* home = std::getenv("HOME");
@@ -39,11 +45,16 @@ std::FILE* openStateLog() {
   } else if (home != nullptr && *home != '\0') {
     base = fs::path(home) / ".local" / "state";
   } else {
-    return nullptr;
+    return {};
   }
   std::error_code ec;
   fs::create_directories(base / "zorvik", ec);
-  return std::fopen((base / "zorvik" / "command.log").c_str(), "ab");
+  return (base / "zorvik" / "command.log").string();
+}
+
+int openLog(const std::string& path) {
+  return fileSystemCalls().open(
+      path.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666);
 }
 
 }  // namespace
@@ -57,6 +68,16 @@ std::string dataFolder() {
     if (fs::is_directory(shared, ec)) return shared.string();
   }
   return program.string();
+}
+
+std::string cappedEntry(std::string entry) {
+  if (entry.size() <= COMMAND_LOG_ENTRY_CAP) return entry;
+  static constexpr std::string_view kMarker = " [entry cut: too long]\r\n";
+  entry.resize(COMMAND_LOG_ENTRY_CAP - kMarker.size());
+  // Never leave half of a line end before the marker.
+  if (!entry.empty() && entry.back() == '\r') entry.pop_back();
+  entry += kMarker;
+  return entry;
 }
 
 std::string programFolder() {
@@ -90,12 +111,32 @@ void writeCommandLog(const std::string& message) {
   entry += message;
   entry += "\r\n";
 
-  // Opened and closed per entry so that processes writing in turn interleave whole entries.
-  std::FILE* file = std::fopen((programFolder() + "/command.log").c_str(), "ab");
-  if (file == nullptr) file = openStateLog();
-  if (file == nullptr) return;
-  std::fwrite(entry.data(), 1, entry.size(), file);
-  std::fclose(file);
+  // Opened and closed per entry, appended with one write: other processes writing in turn then
+  // interleave whole entries, never parts of them.
+  FileSystemCalls& calls = fileSystemCalls();
+  int fd = openLog(programFolder() + "/command.log");
+  if (fd < 0) {
+    std::string fallback = stateLogPath();
+    if (!fallback.empty()) fd = openLog(fallback);
+  }
+  if (fd < 0) return;
+  // An entry cut short earlier (a full disk) ends without its line end: start on a line of our
+  // own rather than gluing this entry to it. The look at the end and the append are made under a
+  // short lock, so that no other run's append falls between them; a lock that does not come
+  // within about two seconds is done without.
+  for (int attempt = 0; attempt < 2000 && ::flock(fd, LOCK_EX | LOCK_NB) != 0; ++attempt) {
+    if (errno != EWOULDBLOCK && errno != EINTR) break;
+    ::usleep(1000);
+  }
+  struct stat info {};
+  char last = '\n';
+  if (::fstat(fd, &info) == 0 && info.st_size > 0 && ::pread(fd, &last, 1, info.st_size - 1) == 1 &&
+      last != '\n')
+    entry.insert(0, "\r\n");
+  entry = cappedEntry(std::move(entry));
+  ssize_t written = calls.write(fd, entry.data(), entry.size());
+  (void)written;  // a short write is swallowed; the next entry starts on a fresh line
+  calls.close(fd);
 }
 
 }  // namespace zorvik

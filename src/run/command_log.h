@@ -3,14 +3,24 @@
 // (~/.local/state/zorvik/command.log without the variable).
 // An entry is a header line (date, LAS file, log file, status line, TAB separated) and the
 // message, each ended by CR LF. Faults while writing are swallowed.
+//
+// Each entry goes out in one append of at most COMMAND_LOG_ENTRY_CAP bytes, so entries of
+// processes writing at the same time never break into each other; a longer entry (a long command
+// line, say) is cut with a marker.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 
 namespace zorvik {
 
+inline constexpr std::size_t COMMAND_LOG_ENTRY_CAP = 4000;
+
 void writeCommandLog(const std::string& message);
+
+// `entry` cut to COMMAND_LOG_ENTRY_CAP bytes with a marker and a line end when longer.
+std::string cappedEntry(std::string entry);
 
 // While a sink is set, messages go to it instead of command.log: the command-line tool keeps
 // the log for the batch form and the window. An empty sink restores the file.
