@@ -8,6 +8,7 @@
 #include "las/line_reader.h"
 #include "las/sections.h"
 #include "las/text.h"
+#include "run/command_log.h"
 #include "run/run_state.h"
 #include "run/window_ops.h"
 #include "transform/param_writer.h"
@@ -81,10 +82,25 @@ int evaluate(const Slots& slots) {
   return CHECK_PASSED;
 }
 
-// Rewrites STOP in the file; the well section may be titled ~Well, or ~W in a 1.2 file.
-bool repairStop(const std::string& fileName, const std::string& value) {
-  for (const char* section : {"Well", "V", "W"})
-    if (writeParameterValue(fileName, section, "STOP", value)) return true;
+// Rewrites STOP in the file (the well section may be titled ~Well, or ~W in a 1.2 file) when it
+// still holds the null value read before, and says in the command log what was done or why not.
+// True when the file now holds the new value, also when another run rewrote it first.
+bool repairStop(const std::string& fileName, const std::string& nullStop,
+                const std::string& value) {
+  ParameterRewrite rewrite =
+      rewriteParameterInPlace(fileName, {"Well", "V", "W"}, "STOP", nullStop, value);
+  switch (rewrite.result.outcome) {
+    case RewriteOutcome::Rewritten:
+      writeCommandLog("LAS file " + fileName + " rewritten: STOP value " + rewrite.oldValue +
+                      " replaced by " + value + ".");
+      return true;
+    case RewriteOutcome::NothingToDo:
+      return true;
+    case RewriteOutcome::Refused:
+      break;
+  }
+  writeCommandLog("Error: LAS file " + fileName +
+                  " could not be rewritten: " + rewrite.result.reason + ".");
   return false;
 }
 
@@ -217,7 +233,7 @@ int checkIndexRange(const std::string& fileName, const WellRange& well,
                  ", Last ~ASCII index = " + formatShortest(ends.last);
   } else {
     // A file written in real time leaves STOP at NULL: take it from the data.
-    if (!repairStop(fileName, formatFixed(ends.last))) {
+    if (!repairStop(fileName, stopText, formatFixed(ends.last))) {
       if (state.window != nullptr)
         state.window->showCritical(
             "Error Repairing Null STOP Value",

@@ -1,8 +1,9 @@
 #include "transform/param_writer.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdio>
-#include <filesystem>
-#include <system_error>
+#include <memory>
 #include <vector>
 
 #include "las/header_line.h"
@@ -24,20 +25,6 @@ std::size_t trailingBlanks(std::string_view s) {
   std::size_t n = 0;
   while (n < s.size() && s[s.size() - 1 - n] == ' ') ++n;
   return n;
-}
-
-// Copies `count` bytes (all that remain when negative) from `in` to `out`.
-bool copyBytes(std::FILE* in, std::FILE* out, std::int64_t count, std::vector<char>& buffer) {
-  while (count != 0) {
-    std::size_t want = buffer.size();
-    if (count > 0 && static_cast<std::int64_t>(want) > count)
-      want = static_cast<std::size_t>(count);
-    std::size_t got = std::fread(buffer.data(), 1, want, in);
-    if (got > 0 && std::fwrite(buffer.data(), 1, got, out) != got) return false;
-    if (count > 0) count -= static_cast<std::int64_t>(got);
-    if (got < want) return count <= 0 && !std::ferror(in);
-  }
-  return true;
 }
 
 }  // namespace
@@ -117,55 +104,87 @@ bool findParameterLine(const std::string& fileName, std::string_view sectionName
   return false;
 }
 
-std::string temporaryNameBeside(const std::string& path) {
-  std::error_code ec;
-  for (int n = 1;; ++n) {
-    std::string name = path + "~" + toText(n) + ".tmp";
-    if (!std::filesystem::exists(name, ec)) return name;
+namespace {
+
+// Streams `source` into `sink` with the `length` bytes at 1-based `start` replaced.
+void copyReplacing(const std::string& source, std::int64_t start, std::int64_t length,
+                   std::string_view replacement, OutputSink& sink) {
+  std::FILE* in = std::fopen(source.c_str(), "rb");
+  if (in == nullptr) return sink.abandon("it could not be read", errno);
+  std::vector<char> buffer(1 << 20);
+  std::int64_t position = 0;  // 0-based offset of the next byte read
+  bool replaced = false;
+  while (true) {
+    if (!replaced && position == start - 1) {
+      sink.write(replacement);
+      if (std::fseek(in, static_cast<long>(start - 1 + length), SEEK_SET) != 0) break;
+      position = start - 1 + length;
+      replaced = true;
+    }
+    std::size_t want = buffer.size();
+    if (!replaced)
+      want = static_cast<std::size_t>(
+          std::min<std::int64_t>(static_cast<std::int64_t>(want), start - 1 - position));
+    std::size_t got = std::fread(buffer.data(), 1, want, in);
+    sink.write(std::string_view(buffer.data(), got));
+    position += static_cast<std::int64_t>(got);
+    if (got < want) break;
   }
+  bool ok = replaced && !std::ferror(in);
+  int error = errno;
+  std::fclose(in);
+  if (!ok) sink.abandon("it could not be read", error);
 }
+
+}  // namespace
 
 bool copyWithReplacement(const std::string& source, const std::string& target, std::int64_t start,
                          std::int64_t length, std::string_view replacement) {
   if (start < 1 || length < 0) return false;
-  std::FILE* in = std::fopen(source.c_str(), "rb");
-  if (in == nullptr) return false;
-  std::string temp = temporaryNameBeside(target);
-  std::FILE* out = std::fopen(temp.c_str(), "wb");
-  if (out == nullptr) {
-    std::fclose(in);
-    return false;
-  }
-  std::vector<char> buffer(1 << 20);
-  bool ok = copyBytes(in, out, start - 1, buffer) &&
-            std::fwrite(replacement.data(), 1, replacement.size(), out) == replacement.size() &&
-            std::fseek(in, static_cast<long>(start - 1 + length), SEEK_SET) == 0 &&
-            copyBytes(in, out, -1, buffer);
-  std::fclose(in);
-  ok = (std::fclose(out) == 0) && ok;
+  return !writeFileSafely(target, [&](OutputSink& sink) {
+            copyReplacing(source, start, length, replacement, sink);
+          }).has_value();
+}
 
-  std::error_code ec;
-  if (ok && std::filesystem::exists(target, ec)) {
-    auto perms = std::filesystem::status(target, ec).permissions();
-    if (!ec) std::filesystem::permissions(temp, perms, ec);
-  }
-  if (ok) {
-    std::filesystem::rename(temp, target, ec);
-    ok = !ec;
-  }
-  if (!ok) std::filesystem::remove(temp, ec);
-  return ok;
+ParameterRewrite rewriteParameterInPlace(const std::string& fileName,
+                                         std::initializer_list<std::string_view> sectionNames,
+                                         std::string_view mnemonic,
+                                         std::optional<std::string_view> expectedOld,
+                                         std::string_view newValue) {
+  ParameterRewrite rewrite;
+  rewrite.result = rewriteInPlace(fileName, [&](const std::string& path) {
+    // Looked at afresh under the lock: another run may have rewritten the file meanwhile.
+    std::int64_t start = 0;
+    std::int64_t length = 0;
+    std::string line;
+    bool found = false;
+    for (std::string_view section : sectionNames)
+      if ((found = findParameterLine(path, section, mnemonic, start, length, line))) break;
+    std::string mnemonicText(trimView(mnemonic));
+    if (!found) return EditPlan{EditPlan::Kind::Refuse, {}, "it has no " + mnemonicText + " line"};
+    rewrite.oldValue = trim(fieldValue(line));
+    if (rewrite.oldValue == trimView(newValue))
+      return EditPlan{EditPlan::Kind::NothingToDo, {}, {}};
+    if (expectedOld && !iequals(rewrite.oldValue, trimView(*expectedOld)))
+      return EditPlan{
+          EditPlan::Kind::Refuse, {}, "its " + mnemonicText + " value changed since it was read"};
+    auto edited = std::make_shared<std::string>();
+    if (!replaceLineValue(line, newValue, *edited))
+      return EditPlan{
+          EditPlan::Kind::Refuse, {}, "its " + mnemonicText + " line is not well formed"};
+    return EditPlan{EditPlan::Kind::Write,
+                    [path, start, length, edited](OutputSink& sink) {
+                      copyReplacing(path, start, length, *edited, sink);
+                    },
+                    {}};
+  });
+  return rewrite;
 }
 
 bool writeParameterValue(const std::string& fileName, std::string_view sectionName,
                          std::string_view mnemonic, std::string_view newValue) {
-  std::int64_t start = 0;
-  std::int64_t length = 0;
-  std::string line;
-  std::string rewritten;
-  if (!findParameterLine(fileName, sectionName, mnemonic, start, length, line)) return false;
-  if (!replaceLineValue(line, newValue, rewritten)) return false;
-  return copyWithReplacement(fileName, fileName, start, length, rewritten);
+  return rewriteParameterInPlace(fileName, {sectionName}, mnemonic, std::nullopt, newValue)
+             .result.outcome != RewriteOutcome::Refused;
 }
 
 }  // namespace zorvik

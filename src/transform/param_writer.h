@@ -2,18 +2,37 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include "base/in_place.h"
 
 namespace zorvik {
 
 // Replaces the value field of the first line with mnemonic `mnemonic` (ignoring case) in section
-// `sectionName` by `newValue`, keeping every other byte of the file. The file is written to a
-// temporary file in the same folder and renamed over the original, so a failure never leaves a
-// half-written file. False (file unchanged) when the file cannot be read or written, or the
-// section or the mnemonic is missing.
+// `sectionName` by `newValue`, keeping every other byte of the file, as a safe in-place rewrite
+// (see rewriteParameterInPlace). True also when the value already reads `newValue`. False (file
+// unchanged) when the file cannot be read or rewritten, or the section or the mnemonic is missing.
 bool writeParameterValue(const std::string& fileName, std::string_view sectionName,
                          std::string_view mnemonic, std::string_view newValue);
+
+// The outcome of an in-place rewrite of one header value, with the value it replaced.
+struct ParameterRewrite {
+  RewriteResult result;
+  std::string oldValue;  // trimmed, as found in the file
+};
+
+// Rewrites in place (locked, and refused for read-only, multiply linked or changing files) the
+// value of `mnemonic` in the first of `sectionNames` that has it. When `expectedOld` is given and
+// the file no longer holds it, the rewrite is refused; when the file already holds `newValue`
+// (another run repaired it first) there is nothing to do.
+ParameterRewrite rewriteParameterInPlace(const std::string& fileName,
+                                         std::initializer_list<std::string_view> sectionNames,
+                                         std::string_view mnemonic,
+                                         std::optional<std::string_view> expectedOld,
+                                         std::string_view newValue);
 
 // --- Pieces shared with the other rewriting routines. ---
 
@@ -31,12 +50,9 @@ bool findParameterLine(const std::string& fileName, std::string_view sectionName
                        std::string& line);
 
 // Writes `target` as the bytes of `source` with the `length` bytes at 1-based `start` replaced by
-// `replacement`, through a temporary file in the target's folder renamed over `target` at the
-// end. `source` may be `target`. False (target untouched) on any read or write failure.
+// `replacement`, through the safe file writer. `source` may be `target`. False (target untouched)
+// on any read or write failure.
 bool copyWithReplacement(const std::string& source, const std::string& target, std::int64_t start,
                          std::int64_t length, std::string_view replacement);
-
-// A name for a temporary file next to `path` that does not exist yet.
-std::string temporaryNameBeside(const std::string& path);
 
 }  // namespace zorvik

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <vector>
 
+#include "base/in_place.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
 #include "las/sections.h"
@@ -14,7 +15,6 @@
 #include "run/run_state.h"
 #include "run/window_ops.h"
 #include "transform/param_writer.h"
-#include "transform/temp_files.h"
 
 namespace zorvik {
 
@@ -160,40 +160,9 @@ bool readHeaderUnwrapped(LineReader& in, std::string& header, std::int64_t& data
   return true;
 }
 
-class OutputFile {
- public:
-  explicit OutputFile(const std::string& path) : file_(std::fopen(path.c_str(), "wb")) {}
-  ~OutputFile() { close(); }
-  bool ok() const { return file_ != nullptr && ok_; }
-  void write(std::string_view bytes) {
-    buffer_.append(bytes);
-    if (buffer_.size() >= (1 << 20)) flush();
-  }
-  void flush() {
-    if (file_ && !buffer_.empty() &&
-        std::fwrite(buffer_.data(), 1, buffer_.size(), file_) != buffer_.size())
-      ok_ = false;
-    buffer_.clear();
-  }
-  bool close() {
-    if (file_ == nullptr) return ok_;
-    flush();
-    if (std::fclose(file_) != 0) ok_ = false;
-    file_ = nullptr;
-    return ok_;
-  }
-
- private:
-  std::FILE* file_;
-  bool ok_ = true;
-  std::string buffer_;
-};
-
-bool writeUnwrapped(const std::string& source, const std::string& target, int linesPerRecord) {
+void writeUnwrapped(const std::string& source, int linesPerRecord, OutputSink& out) {
   LineReader in(source);
-  if (!in.isOpen()) return false;
-  OutputFile out(target);
-  if (!out.ok()) return false;
+  if (!in.isOpen()) return out.abandon("the file could not be read", errno);
 
   std::string header;
   std::int64_t dataStart = 0;
@@ -244,7 +213,6 @@ bool writeUnwrapped(const std::string& source, const std::string& target, int li
       out.write(chunk);
     }
   }
-  return out.close();
 }
 
 }  // namespace
@@ -259,32 +227,24 @@ bool unwrapFile(const std::string& source, const std::string& destination) {
 
   std::error_code ec;
   bool inPlace = source == destination || std::filesystem::equivalent(source, destination, ec);
-  // Unwrapping in place goes through a file beside the source (not the program's folder, which
-  // may be read-only or on another file system), so the final rename cannot fail half-way.
-  std::string target = inPlace
-                           ? (std::filesystem::path(source).parent_path() / WRAP_TEMP_FILE).string()
-                           : destination;
-  bool ok = false;
+  auto produce = [&](OutputSink& sink) { writeUnwrapped(source, linesPerRecord, sink); };
   std::string failure;
   try {
-    errno = 0;
-    ok = writeUnwrapped(source, target, linesPerRecord);
-    if (!ok) failure = std::generic_category().message(errno);
+    if (inPlace) {
+      // The input itself is replaced: locked, and left alone when it may not or must not be.
+      RewriteResult result = rewriteInPlace(source, [&](const std::string&) {
+        return EditPlan{EditPlan::Kind::Write, produce, {}};
+      });
+      if (result.outcome == RewriteOutcome::Refused) failure = result.reason;
+    } else if (auto error = writeFileSafely(destination, produce)) {
+      failure = describeWriteError(*error);
+    }
   } catch (const std::exception& e) {
     failure = e.what();
   }
-  if (!ok) {
-    if (inPlace) std::filesystem::remove(target, ec);
+  if (!failure.empty()) {
     reportUnwrapFailure(failure);
     return false;
-  }
-  if (inPlace) {
-    std::filesystem::rename(target, source, ec);
-    if (ec) {
-      std::filesystem::remove(target, ec);
-      reportUnwrapFailure(ec.message());
-      return false;
-    }
   }
   return true;
 }

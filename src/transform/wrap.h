@@ -19,9 +19,10 @@ int analyseWrap(const std::string& fileName, int& linesPerRecord, int& bufferLen
                 int sampleHint);
 
 // Writes `destination` as `source` with each wrapped record joined onto one line and WRAP set to
-// NO (unwrapped data is left alone). Unwrapping onto the source itself goes through a temporary
-// file renamed over the source at the end. False when the source is missing or writing failed;
-// the source is never left half-written. Rebuilds the run's section index from `source`. In window
+// NO (unwrapped data is left alone), through the safe file writer. Unwrapping onto the source
+// itself is a locked in-place rewrite, refused like any other (read-only, linked, changing).
+// False when the source is missing or writing failed or was refused; neither file is ever left
+// half-written. Rebuilds the run's section index from `source`. In window
 // mode publishes progress and shows a critical box when writing fails.
 bool unwrapFile(const std::string& source, const std::string& destination);
 

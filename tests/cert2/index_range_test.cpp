@@ -3,10 +3,16 @@
 #include "cert2/index_range.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
 
 #include "cert2/las_parts.h"
 #include "las/text.h"
 #include "support/batch_run.h"
+#include "support/scratch.h"
 
 namespace zorvik {
 namespace {
@@ -128,20 +134,54 @@ TEST(CheckIndexRange, FindingsPerSlot) {
   EXPECT_EQ(checkRange(path, slots), CHECK_NOTHING);  // an index that is no number
 }
 
-TEST(CheckIndexRange, RepairsANullStopInTheFile) {
+TEST(CheckIndexRange, RepairsANullStopInTheFileOrSaysWhyNot) {
   LasParts parts{.data = {"1000.0 10", "1000.5 11", "1001.0 12"},
                  .stop = "STOP.M     -999.25 : STOP DEPTH"};
-  std::string bytes = lasBytes(parts);
-  std::string path = prepareLas("null_stop.las", bytes);
-  Slots slots;
-  EXPECT_EQ(checkRange(path, slots), CHECK_PASSED);
-  EXPECT_TRUE(runState().nullStopRepaired);
+  const std::string bytes = lasBytes(parts);
   std::string repaired = bytes;
   repaired.replace(repaired.find(parts.stop), parts.stop.size(), "STOP.M  1001.00000 : STOP DEPTH");
-  EXPECT_EQ(testing::readBytes(path), repaired);
-  // The index was rebuilt: the data section starts where the rewritten file has it.
-  EXPECT_EQ(runState().sectionIndex.back().start,
-            static_cast<std::int64_t>(repaired.find("~A\r\n") + 4 + 1));
+  struct Row {
+    const char* name;
+    std::function<void(const std::string&)> prepare;
+    int result;
+    bool changed;         // the file holds the repaired STOP afterwards
+    std::string message;  // the command log entry, "<las>" for the file's name
+  };
+  const Row rows[] = {
+      {"repaired", nullptr, CHECK_PASSED, true,
+       "LAS file <las> rewritten: STOP value -999.25 replaced by 1001.00000.\n"},
+      {"read-only", [](const std::string& p) { ::chmod(p.c_str(), 0444); }, CHECK_FAULT, false,
+       "Error: LAS file <las> could not be rewritten: it is read-only.\n"},
+      {"hard link", [](const std::string& p) { std::filesystem::create_hard_link(p, p + ".2"); },
+       CHECK_FAULT, false,
+       "Error: LAS file <las> could not be rewritten: it has more than one hard link.\n"},
+      // Another run repaired it after this one read the ~Well section: nothing left to do.
+      {"repaired meanwhile",
+       [&](const std::string& p) { std::ofstream(p, std::ios::binary) << repaired; }, CHECK_PASSED,
+       true, ""},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    testing::RunSandbox sandbox;
+    std::string path = prepareLas("null_stop.las", bytes);
+    ParamTable well = testing::sectionTable(path, "Well");
+    ParamTable curve = testing::sectionTable(path, "Curve");
+    if (row.prepare) row.prepare(path);
+    Slots slots;
+    EXPECT_EQ(checkIndexRange(path, testing::wellRangeOf(well), "NO", well, curve, slots),
+              row.result);
+    EXPECT_EQ(runState().nullStopRepaired, row.changed);
+    EXPECT_EQ(testing::readBytes(path), row.changed ? repaired : bytes);
+    EXPECT_EQ(testing::commandLogMessages(sandbox.commandLog()),
+              replaceAll(row.message, "<las>", path));
+    if (row.changed) {
+      // The index was rebuilt: the data section starts where the rewritten file has it.
+      EXPECT_EQ(runState().sectionIndex.back().start,
+                static_cast<std::int64_t>(repaired.find("~A\r\n") + 4 + 1));
+    }
+    ::chmod(path.c_str(), 0644);
+    std::filesystem::remove(path + ".2");
+  }
 }
 
 }  // namespace
