@@ -35,25 +35,38 @@ fs::path placeExecutable(const fs::path& folder) {
   return exe;
 }
 
-int runProgram(const fs::path& exe, const std::vector<std::string>& args, const fs::path& workDir,
-               const fs::path& configHome) {
+pid_t startProgram(const fs::path& exe, const std::vector<std::string>& args,
+                   const fs::path& workDir, const fs::path& configHome) {
   pid_t child = fork();
+  if (child != 0) return child;
+  setenv("XDG_CONFIG_HOME", configHome.c_str(), 1);
+  if (chdir(workDir.c_str()) != 0) _exit(126);
+  std::vector<char*> argv;
+  std::string program = exe.string();
+  argv.push_back(program.data());
+  std::vector<std::string> copies = args;
+  for (std::string& a : copies) argv.push_back(a.data());
+  argv.push_back(nullptr);
+  execv(program.c_str(), argv.data());
+  _exit(127);
+}
+
+int waitProgram(pid_t child) {
   if (child < 0) return -1;
-  if (child == 0) {
-    setenv("XDG_CONFIG_HOME", configHome.c_str(), 1);
-    if (chdir(workDir.c_str()) != 0) _exit(126);
-    std::vector<char*> argv;
-    std::string program = exe.string();
-    argv.push_back(program.data());
-    std::vector<std::string> copies = args;
-    for (std::string& a : copies) argv.push_back(a.data());
-    argv.push_back(nullptr);
-    execv(program.c_str(), argv.data());
-    _exit(127);
-  }
   int status = 0;
   if (waitpid(child, &status, 0) < 0) return -1;
   return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+int runProgram(const fs::path& exe, const std::vector<std::string>& args, const fs::path& workDir,
+               const fs::path& configHome) {
+  return waitProgram(startProgram(exe, args, workDir, configHome));
+}
+
+void rememberLasFile(const fs::path& configHome, const fs::path& lasFile) {
+  fs::create_directories(configHome / "Zorvik");
+  writeBytes(configHome / "Zorvik" / "Zorvik.conf",
+             "[Startup]\nlasFile=" + lasFile.string() + "\nwriteLog=0\ndoWrap=0\n");
 }
 
 // Line 2 of a report ends in the date and time of the run; pin it for comparisons.
@@ -107,9 +120,7 @@ BatchResult certifyInBatch(const std::string& lasPath, bool wrapChecks) {
 
   // Start-up lets a batch run through only once a ".las" name has been remembered.
   fs::path configHome = scratch / "config";
-  fs::create_directories(configHome / "Zorvik");
-  writeBytes(configHome / "Zorvik" / "Zorvik.conf",
-             "[Startup]\nlasFile=" + lasCopy.string() + "\nwriteLog=0\ndoWrap=0\n");
+  rememberLasFile(configHome, lasCopy);
 
   fs::path logFile = work / "out.log";
   std::vector<std::string> args{lasCopy.string(), logFile.string()};
@@ -120,6 +131,33 @@ BatchResult certifyInBatch(const std::string& lasPath, bool wrapChecks) {
   result.report = normaliseDate(readBytes(logFile.string()));
   result.commandLog = readBytes((exe.parent_path() / "command.log").string());
   return result;
+}
+
+ProgramSandbox::ProgramSandbox() : folder_(makeScratchFolder().string()) {
+  exe_ = placeExecutable(folder_).string();
+  fs::create_directories(work(""));
+  rememberLasFile(fs::path(folder_) / "config", work("remembered.las"));
+}
+
+ProgramSandbox::~ProgramSandbox() {
+  std::error_code ec;
+  if (!folder_.empty()) fs::remove_all(folder_, ec);
+}
+
+std::string ProgramSandbox::work(const std::string& name) const {
+  return folder_ + "/work/" + name;
+}
+
+std::string ProgramSandbox::commandLog() const {
+  return readBytes((fs::path(exe_).parent_path() / "command.log").string());
+}
+
+pid_t ProgramSandbox::start(const std::vector<std::string>& args) const {
+  return startProgram(exe_, args, work(""), fs::path(folder_) / "config");
+}
+
+int ProgramSandbox::wait(pid_t child) {
+  return waitProgram(child);
 }
 
 std::string compareWithGolden(const std::string& actual, const std::string& goldenPath) {

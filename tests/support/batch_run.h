@@ -3,6 +3,8 @@
 // entries of that run.
 #pragma once
 
+#include <sys/types.h>
+
 #include <string>
 #include <vector>
 
@@ -26,6 +28,29 @@ std::string reportWithoutFolder(const std::string& report);
 // The report of an in-process run (two lines at least) with `folder` shown as "<dir>" and line 2
 // (the program's version and the date) pinned, so that it can be kept as a golden file.
 std::string pinnedReport(std::string report, const std::string& folder);
+
+// A scratch folder for runs of the real program: a link of the executable of its own (so a
+// command.log of its own), a settings store that lets batch runs through, and a work folder
+// where the runs start. Removed with everything in it when it ends.
+class ProgramSandbox {
+ public:
+  ProgramSandbox();
+  ~ProgramSandbox();
+  ProgramSandbox(const ProgramSandbox&) = delete;
+  ProgramSandbox& operator=(const ProgramSandbox&) = delete;
+
+  // Full name of `name` in the work folder.
+  std::string work(const std::string& name) const;
+  std::string commandLog() const;
+  // Starts the program with `args` and returns at once with its process number.
+  pid_t start(const std::vector<std::string>& args) const;
+  // Waits for a started program; its exit status, 128 + signal when killed, -1 on failure.
+  static int wait(pid_t child);
+
+ private:
+  std::string folder_;
+  std::string exe_;
+};
 
 // Reads a whole file as bytes ("" when missing).
 std::string readBytes(const std::string& path);
