@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -289,6 +290,22 @@ TEST(BatchRun, WritesThroughLinksAndRefusesWhatItMustNotReplace) {
       EXPECT_EQ(readBytes(las), original);
     }
   }
+}
+
+TEST(BatchRun, ClearsTemporaryFilesThatKilledRunsLeftBesideItsFiles) {
+  ProgramSandbox sandbox;
+  const std::string las = sandbox.work("live.las");
+  std::ofstream(las, std::ios::binary) << realTimeLas(8);
+  // Process 0x7fffffff cannot exist: the run that made these files is gone.
+  const std::string stale[] = {"live.las.zorvik-2147483647-0000beef.tmp",
+                               "out.log.zorvik-2147483647-0000cafe.tmp"};
+  for (const std::string& name : stale) {
+    std::ofstream(sandbox.work(name)) << "partial";
+    struct timespec old[2] = {{std::time(nullptr) - 60, 0}, {std::time(nullptr) - 60, 0}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, sandbox.work(name).c_str(), old, 0), 0);
+  }
+  EXPECT_EQ(ProgramSandbox::wait(sandbox.start({las, sandbox.work("out.log")})), 0);
+  EXPECT_EQ(namesIn(sandbox.work("")), (std::vector<std::string>{"live.las", "out.log"}));
 }
 
 }  // namespace
