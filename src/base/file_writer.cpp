@@ -160,21 +160,21 @@ std::string describeWriteError(const WriteError& error) {
   return what;
 }
 
-OutputSink::OutputSink(int fd) : fd_(fd) {
+FileSink::FileSink(int fd) : fd_(fd) {
   buffer_.reserve(kSinkBuffer);
 }
 
-void OutputSink::write(std::string_view bytes) {
+void FileSink::write(std::string_view bytes) {
   if (failure_) return;
   buffer_.append(bytes);
   if (buffer_.size() >= kSinkBuffer) flush();
 }
 
-void OutputSink::abandon(std::string reason, int error) {
+void FileSink::abandon(std::string reason, int error) {
   if (!failure_) failure_ = WriteError{WriteStep::Produce, error, std::move(reason)};
 }
 
-bool OutputSink::flush() {
+bool FileSink::flush() {
   FileSystemCalls& calls = fileSystemCalls();
   std::size_t done = 0;
   while (!failure_ && done < buffer_.size()) {
@@ -242,7 +242,7 @@ std::optional<WriteError> writeFileSafely(const std::string& destination, const 
   }
 
   if (!failure) {
-    OutputSink sink(fd);
+    FileSink sink(fd);
     produce(sink);
     sink.flush();
     failure = sink.failure();
@@ -260,7 +260,7 @@ std::optional<WriteError> writeFileSafely(const std::string& destination, const 
 }
 
 std::optional<WriteError> writeFileSafely(const std::string& destination, std::string_view bytes) {
-  return writeFileSafely(destination, [bytes](OutputSink& sink) { sink.write(bytes); });
+  return writeFileSafely(destination, [bytes](FileSink& sink) { sink.write(bytes); });
 }
 
 bool isWriterTemporaryName(std::string_view fileName, long& pid) {

@@ -74,9 +74,9 @@ struct WriteError {
 std::string describeWriteError(const WriteError& error);
 
 // What a producer writes into. Buffered; the first failure is kept and later writes are dropped.
-class OutputSink {
+class FileSink {
  public:
-  explicit OutputSink(int fd);
+  explicit FileSink(int fd);
   void write(std::string_view bytes);
   // Gives up the whole write with a reason of the producer's own.
   void abandon(std::string reason, int error = 0);
@@ -90,7 +90,7 @@ class OutputSink {
   std::optional<WriteError> failure_;
 };
 
-using Producer = std::function<void(OutputSink&)>;
+using Producer = std::function<void(FileSink&)>;
 
 struct WriteOptions {
   // Called when the temporary file is complete and synced, just before the rename; an answer

@@ -108,7 +108,7 @@ namespace {
 
 // Streams `source` into `sink` with the `length` bytes at 1-based `start` replaced.
 void copyReplacing(const std::string& source, std::int64_t start, std::int64_t length,
-                   std::string_view replacement, OutputSink& sink) {
+                   std::string_view replacement, FileSink& sink) {
   std::FILE* in = std::fopen(source.c_str(), "rb");
   if (in == nullptr) return sink.abandon("it could not be read", errno);
   std::vector<char> buffer(1 << 20);
@@ -141,7 +141,7 @@ void copyReplacing(const std::string& source, std::int64_t start, std::int64_t l
 bool copyWithReplacement(const std::string& source, const std::string& target, std::int64_t start,
                          std::int64_t length, std::string_view replacement) {
   if (start < 1 || length < 0) return false;
-  return !writeFileSafely(target, [&](OutputSink& sink) {
+  return !writeFileSafely(target, [&](FileSink& sink) {
             copyReplacing(source, start, length, replacement, sink);
           }).has_value();
 }
@@ -173,7 +173,7 @@ ParameterRewrite rewriteParameterInPlace(const std::string& fileName,
       return EditPlan{
           EditPlan::Kind::Refuse, {}, "its " + mnemonicText + " line is not well formed"};
     return EditPlan{EditPlan::Kind::Write,
-                    [path, start, length, edited](OutputSink& sink) {
+                    [path, start, length, edited](FileSink& sink) {
                       copyReplacing(path, start, length, *edited, sink);
                     },
                     {}};

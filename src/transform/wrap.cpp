@@ -160,7 +160,7 @@ bool readHeaderUnwrapped(LineReader& in, std::string& header, std::int64_t& data
   return true;
 }
 
-void writeUnwrapped(const std::string& source, int linesPerRecord, OutputSink& out) {
+void writeUnwrapped(const std::string& source, int linesPerRecord, FileSink& out) {
   LineReader in(source);
   if (!in.isOpen()) return out.abandon("the file could not be read", errno);
 
@@ -227,7 +227,7 @@ bool unwrapFile(const std::string& source, const std::string& destination) {
 
   std::error_code ec;
   bool inPlace = source == destination || std::filesystem::equivalent(source, destination, ec);
-  auto produce = [&](OutputSink& sink) { writeUnwrapped(source, linesPerRecord, sink); };
+  auto produce = [&](FileSink& sink) { writeUnwrapped(source, linesPerRecord, sink); };
   std::string failure;
   try {
     if (inPlace) {

@@ -195,7 +195,7 @@ TEST(FileWriter, RefusesDestinationsThatAreNotRegularFilesWithoutOpeningThem) {
 TEST(FileWriter, StreamsFromAProducerAndStopsWhenItGivesUp) {
   ScratchDir dir;
   std::string destination = dir.write("out.las", kOld);
-  auto failure = writeFileSafely(destination, [](OutputSink& sink) {
+  auto failure = writeFileSafely(destination, [](FileSink& sink) {
     for (int i = 0; i < 1000; ++i) sink.write(std::string(1000, 'a' + i % 26));
   });
   ASSERT_FALSE(failure.has_value());
@@ -203,7 +203,7 @@ TEST(FileWriter, StreamsFromAProducerAndStopsWhenItGivesUp) {
   ASSERT_EQ(written.size(), 1000000u);
   EXPECT_EQ(written.substr(999000), std::string(1000, 'a' + 999 % 26));
 
-  failure = writeFileSafely(destination, [](OutputSink& sink) {
+  failure = writeFileSafely(destination, [](FileSink& sink) {
     sink.write(std::string(300000, 'z'));
     sink.abandon("the source could not be read", EIO);
     sink.write("more");
@@ -223,7 +223,7 @@ TEST(FileWriter, ACheckBeforeTheRenameCanRefuseTheWrite) {
     return std::optional<WriteError>(WriteError{WriteStep::Changed, 0, "it changed"});
   };
   auto failure = writeFileSafely(
-      destination, [](OutputSink& sink) { sink.write(kNew); }, options);
+      destination, [](FileSink& sink) { sink.write(kNew); }, options);
   ASSERT_TRUE(failure.has_value());
   EXPECT_EQ(failure->step, WriteStep::Changed);
   EXPECT_EQ(readBytes(destination), kOld);

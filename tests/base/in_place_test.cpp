@@ -25,7 +25,7 @@ EditPlan replaceTodo(const std::string& path) {
   std::size_t at = text.find("TODO");
   if (at == std::string::npos) return {EditPlan::Kind::NothingToDo, {}, {}};
   text.replace(at, 4, "DONE");
-  return {EditPlan::Kind::Write, [text](OutputSink& sink) { sink.write(text); }, {}};
+  return {EditPlan::Kind::Write, [text](FileSink& sink) { sink.write(text); }, {}};
 }
 
 std::size_t entriesIn(const std::string& folder) {
@@ -80,7 +80,7 @@ TEST(InPlaceRewrite, LeavesAFileThatGrowsWhileItIsRewritten) {
   RewriteResult result = rewriteInPlace(path, [](const std::string& p) {
     EditPlan plan = replaceTodo(p);
     Producer produce = plan.produce;
-    plan.produce = [p, produce](OutputSink& sink) {
+    plan.produce = [p, produce](FileSink& sink) {
       produce(sink);
       std::ofstream(p, std::ios::binary | std::ios::app) << "3 4\r\n";
     };

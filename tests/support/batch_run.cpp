@@ -133,7 +133,9 @@ BatchResult certifyInBatch(const std::string& lasPath, bool wrapChecks) {
   return result;
 }
 
-ProgramSandbox::ProgramSandbox() : folder_(makeScratchFolder().string()) {
+ProgramSandbox::ProgramSandbox() {
+  std::string pattern = (fs::temp_directory_path() / "zorvik-batch-XXXXXX").string();
+  if (mkdtemp(pattern.data()) != nullptr) folder_ = pattern;
   exe_ = placeExecutable(folder_).string();
   fs::create_directories(work(""));
   rememberLasFile(fs::path(folder_) / "config", work("remembered.las"));
