@@ -18,6 +18,7 @@ namespace zorvik {
 namespace {
 
 namespace fs = std::filesystem;
+using testing::namesIn;
 using testing::readBytes;
 using testing::ScratchDir;
 
@@ -67,14 +68,6 @@ class FaultyCalls : public FileSystemCalls {
   int error_;
   bool shortDone_ = false;
 };
-
-std::vector<std::string> namesIn(const std::string& folder) {
-  std::vector<std::string> names;
-  for (const auto& entry : fs::directory_iterator(folder))
-    names.push_back(entry.path().filename().string());
-  std::sort(names.begin(), names.end());
-  return names;
-}
 
 mode_t modeOf(const std::string& path) {
   struct stat info {};

@@ -27,6 +27,7 @@ namespace zorvik {
 namespace {
 
 namespace fs = std::filesystem;
+using testing::namesIn;
 using testing::ProgramSandbox;
 using testing::readBytes;
 
@@ -200,14 +201,6 @@ std::size_t countOf(const std::string& text, const std::string& part) {
   for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
     ++count;
   return count;
-}
-
-std::vector<std::string> namesIn(const std::string& folder) {
-  std::vector<std::string> names;
-  for (const auto& entry : fs::directory_iterator(folder))
-    names.push_back(entry.path().filename().string());
-  std::sort(names.begin(), names.end());
-  return names;
 }
 
 TEST(NullStopRepair, TwoRunsOnOneFileRepairItOnceAndBothReport) {

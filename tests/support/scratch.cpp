@@ -1,5 +1,6 @@
 #include "support/scratch.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -44,6 +45,14 @@ std::string scratchFolder() {
 
 std::string writeScratchFile(const std::string& name, const std::string& bytes) {
   return sharedScratch().write(name, bytes);
+}
+
+std::vector<std::string> namesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(folder))
+    names.push_back(entry.path().filename().string());
+  std::sort(names.begin(), names.end());
+  return names;
 }
 
 std::string crlfLines(const std::vector<std::string>& lines) {

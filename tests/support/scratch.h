@@ -32,6 +32,9 @@ std::string scratchFolder();
 // Writes `bytes` as `name` in the shared scratch folder and gives back the full path.
 std::string writeScratchFile(const std::string& name, const std::string& bytes);
 
+// The names of the entries of `folder`, sorted.
+std::vector<std::string> namesIn(const std::string& folder);
+
 // The lines, each ended by CR LF.
 std::string crlfLines(const std::vector<std::string>& lines);
 
