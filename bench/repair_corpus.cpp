@@ -11,11 +11,11 @@
 #include <set>
 #include <string>
 
+#include "base/command_log.h"
+#include "base/text.h"
 #include "checks/report.h"
-#include "las/text.h"
-#include "run/command_log.h"
+#include "checks/run_state.h"
 #include "run/interactive_run.h"
-#include "run/run_state.h"
 #include "run/version_sniff.h"
 #include "transform/repair.h"
 

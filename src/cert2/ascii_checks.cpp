@@ -1,10 +1,10 @@
 #include "cert2/ascii_checks.h"
 
-#include "cert2/data_lines.h"
-#include "cert2/data_scan.h"
+#include "base/text.h"
+#include "checks/data_lines.h"
+#include "checks/data_scan.h"
+#include "checks/run_state.h"
 #include "las/line_reader.h"
-#include "las/text.h"
-#include "run/run_state.h"
 
 namespace zorvik {
 

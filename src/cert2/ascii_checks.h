@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "cert2/data_scan.h"
 #include "checks/check_table.h"
+#include "checks/data_scan.h"
 #include "las/header_line.h"
 #include "las/section_types.h"
 

@@ -2,19 +2,19 @@
 
 #include <cmath>
 
+#include "base/command_log.h"
+#include "base/fault.h"
+#include "base/text.h"
 #include "cert2/ascii_checks.h"
-#include "cert2/file_value.h"
 #include "cert2/line_syntax.h"
-#include "cert2/version_checks.h"
 #include "cert2/well_checks.h"
-#include "cert3/section_structure.h"
 #include "checks/catalogue.h"
+#include "checks/file_value.h"
+#include "checks/run_state.h"
+#include "checks/section_structure.h"
+#include "checks/version_checks.h"
+#include "checks/window_ops.h"
 #include "las/sections.h"
-#include "las/text.h"
-#include "run/command_log.h"
-#include "run/fault.h"
-#include "run/run_state.h"
-#include "run/window_ops.h"
 
 namespace zorvik {
 

@@ -8,8 +8,8 @@
 
 #include <string>
 
-#include "cert2/index_range.h"
 #include "checks/check_table.h"
+#include "checks/index_range.h"
 #include "las/header_line.h"
 
 namespace zorvik {

@@ -3,7 +3,7 @@
 #include <initializer_list>
 #include <string_view>
 
-#include "las/text.h"
+#include "base/text.h"
 
 namespace zorvik {
 

@@ -5,12 +5,12 @@
 #include <string>
 #include <unordered_map>
 
+#include "base/text.h"
 #include "cert3/section_lines.h"
+#include "checks/run_state.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
-#include "las/text.h"
 #include "las/v3_line.h"
-#include "run/run_state.h"
 
 namespace zorvik {
 

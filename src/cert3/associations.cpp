@@ -4,13 +4,13 @@
 #include <string_view>
 #include <vector>
 
+#include "base/text.h"
 #include "cert3/mnemonic_table.h"
 #include "cert3/section_lines.h"
+#include "checks/run_state.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
-#include "las/text.h"
 #include "las/v3_line.h"
-#include "run/run_state.h"
 
 namespace zorvik {
 

@@ -3,24 +3,24 @@
 #include <cmath>
 #include <initializer_list>
 
-#include "cert2/file_value.h"
-#include "cert2/index_range.h"
-#include "cert2/version_checks.h"
+#include "base/command_log.h"
+#include "base/fault.h"
+#include "base/text.h"
 #include "cert3/array_channels.h"
 #include "cert3/associations.h"
 #include "cert3/column_data.h"
 #include "cert3/line_structure3.h"
-#include "cert3/section_structure.h"
-#include "cert3/title_lines.h"
 #include "cert3/well_checks3.h"
 #include "checks/catalogue.h"
+#include "checks/file_value.h"
+#include "checks/index_range.h"
+#include "checks/run_state.h"
+#include "checks/section_structure.h"
+#include "checks/title_lines.h"
+#include "checks/version_checks.h"
+#include "checks/window_ops.h"
 #include "las/header_line.h"
 #include "las/sections.h"
-#include "las/text.h"
-#include "run/command_log.h"
-#include "run/fault.h"
-#include "run/run_state.h"
-#include "run/window_ops.h"
 
 namespace zorvik {
 namespace {

@@ -5,15 +5,15 @@
 #include <string_view>
 #include <vector>
 
+#include "base/text.h"
 #include "cert3/data_items.h"
 #include "cert3/finding_budget.h"
 #include "cert3/item_format.h"
 #include "cert3/section_lines.h"
+#include "checks/run_state.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
 #include "las/sections.h"
-#include "las/text.h"
-#include "run/run_state.h"
 
 namespace zorvik {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "las/text.h"
+#include "base/text.h"
 
 namespace zorvik {
 

@@ -4,13 +4,13 @@
 #include <exception>
 #include <string_view>
 
+#include "base/text.h"
 #include "cert3/finding_budget.h"
 #include "cert3/section_lines.h"
+#include "checks/run_state.h"
 #include "las/line_reader.h"
 #include "las/sections.h"
-#include "las/text.h"
 #include "las/v3_line.h"
-#include "run/run_state.h"
 
 namespace zorvik {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "las/text.h"
+#include "base/text.h"
 
 namespace zorvik {
 

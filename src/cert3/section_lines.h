@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "base/text.h"
 #include "las/line_reader.h"
-#include "las/text.h"
 
 namespace zorvik {
 

@@ -3,8 +3,8 @@
 #include <exception>
 #include <initializer_list>
 
+#include "base/text.h"
 #include "las/sections.h"
-#include "las/text.h"
 
 namespace zorvik {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "las/text.h"
-#include "run/run_state.h"
+#include "base/text.h"
+#include "checks/run_state.h"
 
 namespace zorvik {
 

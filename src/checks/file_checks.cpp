@@ -7,8 +7,8 @@
 #include <cstdio>
 #include <string_view>
 
-#include "las/text.h"
-#include "run/file_helpers.h"
+#include "base/file_helpers.h"
+#include "base/text.h"
 
 namespace zorvik {
 

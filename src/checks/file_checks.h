@@ -7,8 +7,8 @@
 
 #include <string>
 
+#include "base/fault.h"
 #include "checks/check_table.h"
-#include "run/fault.h"
 
 namespace zorvik {
 

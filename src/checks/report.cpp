@@ -1,11 +1,14 @@
 #include "checks/report.h"
 
+#include <cstdio>
+
+#include "base/clock.h"
+#include "base/command_log.h"
+#include "base/file_helpers.h"
 #include "base/file_writer.h"
+#include "base/text.h"
 #include "checks/catalogue.h"
-#include "las/text.h"
-#include "run/clock.h"
-#include "run/command_log.h"
-#include "run/run_state.h"
+#include "checks/run_state.h"
 
 namespace zorvik {
 

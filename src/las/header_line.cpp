@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "base/text.h"
+#include "checks/run_state.h"
 #include "las/sections.h"
-#include "las/text.h"
 #include "las/value_format.h"
-#include "run/run_state.h"
 
 namespace zorvik {
 

@@ -4,9 +4,9 @@
 #include <charconv>
 #include <climits>
 
+#include "base/text.h"
+#include "checks/run_state.h"
 #include "las/line_reader.h"
-#include "las/text.h"
-#include "run/run_state.h"
 
 namespace zorvik {
 

@@ -1,10 +1,10 @@
 #include "las/v3_line.h"
 
+#include "base/text.h"
+#include "checks/run_state.h"
 #include "las/header_line.h"
 #include "las/sections.h"
-#include "las/text.h"
 #include "las/value_format.h"
-#include "run/run_state.h"
 
 namespace zorvik {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "las/text.h"
-#include "run/run_state.h"
+#include "base/text.h"
+#include "checks/run_state.h"
 
 namespace zorvik {
 

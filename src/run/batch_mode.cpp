@@ -1,13 +1,13 @@
 #include "run/batch_mode.h"
 
+#include "base/command_log.h"
+#include "base/fault.h"
+#include "base/text.h"
 #include "cert2/certify2.h"
 #include "cert3/certify3.h"
 #include "checks/report.h"
-#include "las/text.h"
-#include "run/command_log.h"
-#include "run/fault.h"
+#include "checks/run_state.h"
 #include "run/run_start.h"
-#include "run/run_state.h"
 #include "run/version_sniff.h"
 
 namespace zorvik {

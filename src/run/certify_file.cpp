@@ -6,17 +6,17 @@
 #include <string_view>
 #include <system_error>
 
+#include "base/command_log.h"
+#include "base/fault.h"
+#include "base/text.h"
 #include "cert2/certify2.h"
 #include "cert3/certify3.h"
 #include "checks/catalogue.h"
 #include "checks/file_checks.h"
 #include "checks/report.h"
+#include "checks/run_state.h"
 #include "las/line_reader.h"
-#include "las/text.h"
-#include "run/command_log.h"
-#include "run/fault.h"
 #include "run/run_start.h"
-#include "run/run_state.h"
 #include "run/version_sniff.h"
 
 namespace zorvik {

@@ -13,7 +13,7 @@
 #include <set>
 #include <thread>
 
-#include "las/text.h"
+#include "base/text.h"
 #include "run/certify_file.h"
 #include "run/check_output.h"
 #include "run/cli_options.h"

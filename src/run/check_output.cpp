@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
-#include "las/text.h"
+#include "base/text.h"
 
 namespace zorvik {
 

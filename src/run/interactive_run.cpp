@@ -2,15 +2,15 @@
 
 #include <cstdio>
 
+#include "base/file_helpers.h"
 #include "cert2/certify2.h"
 #include "cert3/certify3.h"
 #include "checks/report.h"
-#include "run/file_helpers.h"
+#include "checks/run_state.h"
+#include "checks/window_ops.h"
 #include "run/run_start.h"
-#include "run/run_state.h"
 #include "run/settings.h"
 #include "run/version_sniff.h"
-#include "run/window_ops.h"
 
 namespace zorvik {
 

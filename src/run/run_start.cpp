@@ -5,7 +5,7 @@
 #include "base/file_writer.h"
 #include "checks/catalogue.h"
 #include "checks/file_checks.h"
-#include "run/run_state.h"
+#include "checks/run_state.h"
 
 namespace zorvik {
 

@@ -5,12 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "las/text.h"
+#include "base/command_log.h"
+#include "base/fault.h"
+#include "base/file_helpers.h"
+#include "base/text.h"
+#include "checks/run_state.h"
 #include "run/batch_mode.h"
-#include "run/command_log.h"
-#include "run/fault.h"
-#include "run/file_helpers.h"
-#include "run/run_state.h"
 #include "run/settings.h"
 #include "run/tool.h"
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <span>
 
-#include "las/text.h"
+#include "base/text.h"
 #include "run/cli_options.h"
 #include "run/startup.h"
 

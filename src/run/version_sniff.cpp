@@ -1,9 +1,9 @@
 #include "run/version_sniff.h"
 
+#include "base/file_helpers.h"
+#include "base/text.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
-#include "las/text.h"
-#include "run/file_helpers.h"
 
 namespace zorvik {
 

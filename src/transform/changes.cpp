@@ -1,6 +1,6 @@
 #include "transform/changes.h"
 
-#include "las/text.h"
+#include "base/text.h"
 
 namespace zorvik {
 

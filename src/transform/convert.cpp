@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/text.h"
 #include "las/header_line.h"
-#include "las/text.h"
 #include "transform/line_source.h"
 #include "transform/param_writer.h"
 #include "transform/temp_files.h"

@@ -6,10 +6,10 @@
 #include <memory>
 #include <vector>
 
+#include "base/text.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
 #include "las/sections.h"
-#include "las/text.h"
 
 namespace zorvik {
 

@@ -6,9 +6,9 @@
 #include <map>
 #include <system_error>
 
-#include "cert2/data_scan.h"
+#include "base/text.h"
+#include "checks/data_scan.h"
 #include "las/header_line.h"
-#include "las/text.h"
 #include "transform/line_source.h"
 #include "transform/param_writer.h"
 

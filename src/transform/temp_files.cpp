@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "run/command_log.h"
+#include "base/command_log.h"
 
 namespace zorvik {
 

@@ -8,12 +8,12 @@
 #include <vector>
 
 #include "base/in_place.h"
+#include "base/text.h"
+#include "checks/run_state.h"
+#include "checks/window_ops.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
 #include "las/sections.h"
-#include "las/text.h"
-#include "run/run_state.h"
-#include "run/window_ops.h"
 #include "transform/param_writer.h"
 
 namespace zorvik {

@@ -2,8 +2,8 @@
 
 #include <charconv>
 
+#include "base/text.h"
 #include "checks/check_table.h"
-#include "las/text.h"
 
 namespace zorvik {
 

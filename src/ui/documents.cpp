@@ -1,6 +1,6 @@
 #include "ui/documents.h"
 
-#include "las/text.h"
+#include "base/text.h"
 
 namespace zorvik {
 

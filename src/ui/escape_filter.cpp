@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <QWidget>
 
-#include "run/run_state.h"
+#include "checks/run_state.h"
 
 namespace zorvik {
 

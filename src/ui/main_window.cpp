@@ -26,11 +26,11 @@
 #include <QVBoxLayout>
 #include <optional>
 
+#include "base/command_log.h"
+#include "base/file_helpers.h"
 #include "checks/report.h"
-#include "run/command_log.h"
-#include "run/file_helpers.h"
+#include "checks/run_state.h"
 #include "run/interactive_run.h"
-#include "run/run_state.h"
 #include "run/settings.h"
 #include "transform/convert.h"
 #include "transform/repair.h"

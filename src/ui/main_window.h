@@ -10,7 +10,7 @@
 #include <QMainWindow>
 #include <array>
 
-#include "run/window_ops.h"
+#include "checks/window_ops.h"
 #include "ui/window_services.h"
 
 class QAction;

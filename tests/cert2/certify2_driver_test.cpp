@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "cert2/certify2.h"
-#include "run/run_state.h"
+#include "checks/run_state.h"
 #include "support/fake_window.h"
 #include "support/scratch.h"
 

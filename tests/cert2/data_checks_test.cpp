@@ -2,11 +2,11 @@
 // findings, line length and record boundaries; and group 4's pass feeding groups 6 and 7.
 #include <gtest/gtest.h>
 
+#include "base/text.h"
 #include "cert2/ascii_checks.h"
-#include "cert2/data_scan.h"
 #include "cert2/las_parts.h"
 #include "cert2/line_syntax.h"
-#include "las/text.h"
+#include "checks/data_scan.h"
 
 namespace zorvik {
 namespace {

@@ -5,11 +5,11 @@
 #include <utility>
 #include <vector>
 
+#include "base/text.h"
 #include "cert2/las_parts.h"
-#include "cert2/version_checks.h"
 #include "cert2/well_checks.h"
-#include "las/text.h"
-#include "run/run_state.h"
+#include "checks/run_state.h"
+#include "checks/version_checks.h"
 
 namespace zorvik {
 namespace {

@@ -1,6 +1,6 @@
 // STRT/STOP/STEP/NULL against the index channel: the index reader, the increment walk, and the
 // rules of the check the fixture reports do not show.
-#include "cert2/index_range.h"
+#include "checks/index_range.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -9,8 +9,8 @@
 #include <fstream>
 #include <functional>
 
+#include "base/text.h"
 #include "cert2/las_parts.h"
-#include "las/text.h"
 #include "support/batch_run.h"
 #include "support/scratch.h"
 

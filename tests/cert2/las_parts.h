@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "cert2/index_range.h"
 #include "checks/check_table.h"
+#include "checks/index_range.h"
+#include "checks/run_state.h"
 #include "las/header_line.h"
 #include "las/sections.h"
-#include "run/run_state.h"
 #include "support/scratch.h"
 
 namespace zorvik::testing {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "checks/catalogue.h"
-#include "run/run_state.h"
+#include "checks/run_state.h"
 #include "support/batch_run.h"
 #include "support/fake_window.h"
 #include "support/scratch.h"

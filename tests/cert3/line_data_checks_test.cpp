@@ -10,9 +10,9 @@
 #include "cert3/associations.h"
 #include "cert3/column_data.h"
 #include "cert3/line_structure3.h"
-#include "cert3/section_structure.h"
+#include "checks/run_state.h"
+#include "checks/section_structure.h"
 #include "las/sections.h"
-#include "run/run_state.h"
 #include "support/scratch.h"
 
 namespace zorvik {

@@ -11,8 +11,8 @@
 #include "cert3/data_items.h"
 #include "cert3/item_format.h"
 #include "cert3/mnemonic_table.h"
+#include "checks/run_state.h"
 #include "las/value_format.h"
-#include "run/run_state.h"
 
 namespace zorvik {
 namespace {

@@ -1,12 +1,12 @@
-#include "cert3/section_structure.h"
+#include "checks/section_structure.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
 #include <vector>
 
+#include "checks/run_state.h"
 #include "las/sections.h"
-#include "run/run_state.h"
 #include "support/scratch.h"
 
 namespace zorvik {

@@ -1,4 +1,4 @@
-#include "cert3/title_lines.h"
+#include "checks/title_lines.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "run/run_state.h"
+#include "checks/run_state.h"
 
 namespace zorvik {
 namespace {

@@ -8,8 +8,8 @@
 #include <fstream>
 #include <string>
 
+#include "base/command_log.h"
 #include "fuzz/fuzz_target.h"
-#include "run/command_log.h"
 #include "run/startup.h"
 
 namespace fs = std::filesystem;

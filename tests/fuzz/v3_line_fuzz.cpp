@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
+#include "checks/run_state.h"
 #include "fuzz/fuzz_target.h"
 #include "las/v3_line.h"
-#include "run/run_state.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;

@@ -2,9 +2,9 @@
 // element test and the value test against the format must answer for any bytes.
 #include <string_view>
 
+#include "checks/run_state.h"
 #include "fuzz/fuzz_target.h"
 #include "las/value_format.h"
-#include "run/run_state.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view input(reinterpret_cast<const char*>(data), size);

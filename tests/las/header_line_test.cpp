@@ -4,7 +4,7 @@
 
 #include <tuple>
 
-#include "run/run_state.h"
+#include "checks/run_state.h"
 
 namespace zorvik {
 namespace {

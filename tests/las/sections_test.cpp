@@ -5,8 +5,8 @@
 #include <string>
 #include <tuple>
 
-#include "las/text.h"
-#include "run/run_state.h"
+#include "base/text.h"
+#include "checks/run_state.h"
 #include "support/batch_run.h"
 #include "support/scratch.h"
 

@@ -1,4 +1,4 @@
-#include "las/text.h"
+#include "base/text.h"
 
 #include <gtest/gtest.h>
 

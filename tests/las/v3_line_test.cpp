@@ -5,8 +5,8 @@
 #include <map>
 #include <tuple>
 
+#include "checks/run_state.h"
 #include "las/sections.h"
-#include "run/run_state.h"
 #include "support/scratch.h"
 
 namespace zorvik {

@@ -5,7 +5,7 @@
 #include <string>
 #include <tuple>
 
-#include "run/run_state.h"
+#include "checks/run_state.h"
 
 namespace zorvik {
 namespace {

@@ -4,8 +4,8 @@
 
 #include <filesystem>
 
-#include "las/text.h"
-#include "run/run_state.h"
+#include "base/text.h"
+#include "checks/run_state.h"
 #include "support/batch_run.h"
 #include "support/scratch.h"
 

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "run/command_log.h"
+#include "base/command_log.h"
 #include "support/scratch.h"
 
 namespace zorvik {

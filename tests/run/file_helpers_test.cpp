@@ -1,5 +1,5 @@
 // The file probes of a run: the log file name and the version sniff.
-#include "run/file_helpers.h"
+#include "base/file_helpers.h"
 
 #include <gtest/gtest.h>
 

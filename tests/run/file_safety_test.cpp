@@ -14,12 +14,12 @@
 #include <functional>
 #include <set>
 
+#include "base/command_log.h"
+#include "base/file_helpers.h"
 #include "base/file_writer.h"
+#include "base/text.h"
 #include "checks/report.h"
-#include "las/text.h"
-#include "run/command_log.h"
-#include "run/file_helpers.h"
-#include "run/run_state.h"
+#include "checks/run_state.h"
 #include "support/batch_run.h"
 #include "support/scratch.h"
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "run/run_state.h"
+#include "checks/run_state.h"
 #include "support/batch_run.h"
 #include "support/fake_window.h"
 #include "support/scratch.h"

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "base/text.h"
 #include "checks/check_table.h"
-#include "las/text.h"
-#include "run/run_state.h"
-#include "run/window_ops.h"
+#include "checks/run_state.h"
+#include "checks/window_ops.h"
 
 namespace zorvik::testing {
 

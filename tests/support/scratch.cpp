@@ -6,8 +6,8 @@
 #include <fstream>
 #include <vector>
 
-#include "run/command_log.h"
-#include "run/run_state.h"
+#include "base/command_log.h"
+#include "checks/run_state.h"
 #include "support/batch_run.h"
 
 namespace fs = std::filesystem;

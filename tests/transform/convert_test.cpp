@@ -8,8 +8,8 @@
 #include <filesystem>
 #include <memory>
 
+#include "base/text.h"
 #include "las/header_line.h"
-#include "las/text.h"
 #include "support/batch_run.h"
 #include "support/scratch.h"
 

@@ -6,7 +6,7 @@
 
 #include <filesystem>
 
-#include "las/text.h"
+#include "base/text.h"
 #include "support/batch_run.h"
 #include "support/scratch.h"
 

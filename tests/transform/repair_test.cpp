@@ -8,10 +8,10 @@
 #include <functional>
 #include <map>
 
+#include "base/text.h"
 #include "checks/report.h"
-#include "las/text.h"
+#include "checks/run_state.h"
 #include "run/interactive_run.h"
-#include "run/run_state.h"
 #include "support/batch_run.h"
 #include "support/scratch.h"
 

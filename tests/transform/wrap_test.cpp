@@ -5,9 +5,9 @@
 
 #include <filesystem>
 
+#include "base/text.h"
+#include "checks/run_state.h"
 #include "las/sections.h"
-#include "las/text.h"
-#include "run/run_state.h"
 #include "support/batch_run.h"
 #include "support/fake_window.h"
 #include "support/scratch.h"

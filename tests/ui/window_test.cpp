@@ -25,8 +25,8 @@
 #include <deque>
 #include <memory>
 
-#include "run/command_log.h"
-#include "run/run_state.h"
+#include "base/command_log.h"
+#include "checks/run_state.h"
 #include "run/settings.h"
 #include "ui/main_window.h"
 #include "ui/result_model.h"

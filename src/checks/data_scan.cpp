@@ -1,14 +1,14 @@
-#include "cert2/data_scan.h"
+#include "checks/data_scan.h"
 
 #include <algorithm>
 #include <cstring>
 #include <filesystem>
 #include <system_error>
 
-#include "cert2/data_lines.h"
+#include "base/text.h"
+#include "checks/data_lines.h"
+#include "checks/run_state.h"
 #include "las/line_reader.h"
-#include "las/text.h"
-#include "run/run_state.h"
 
 namespace zorvik {
 

@@ -1,9 +1,9 @@
-#include "run/fault.h"
+#include "base/fault.h"
 
 #include <cerrno>
 #include <new>
 
-#include "las/text.h"
+#include "base/text.h"
 
 namespace zorvik {
 

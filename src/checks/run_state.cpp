@@ -1,4 +1,4 @@
-#include "run/run_state.h"
+#include "checks/run_state.h"
 
 namespace zorvik {
 

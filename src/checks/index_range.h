@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "cert2/data_scan.h"
 #include "checks/check_table.h"
+#include "checks/data_scan.h"
 #include "las/header_line.h"
 
 namespace zorvik {

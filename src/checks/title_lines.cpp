@@ -1,11 +1,11 @@
-#include "cert3/title_lines.h"
+#include "checks/title_lines.h"
 
 #include <cstdint>
 #include <string_view>
 
+#include "base/text.h"
 #include "checks/check_table.h"
 #include "las/line_reader.h"
-#include "las/text.h"
 
 namespace zorvik {
 namespace {

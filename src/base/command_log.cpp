@@ -1,4 +1,4 @@
-#include "run/command_log.h"
+#include "base/command_log.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -9,9 +9,9 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "base/clock.h"
 #include "base/file_writer.h"
-#include "run/clock.h"
-#include "run/run_state.h"
+#include "checks/run_state.h"
 
 namespace zorvik {
 

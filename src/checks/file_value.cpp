@@ -1,10 +1,10 @@
-#include "cert2/file_value.h"
+#include "checks/file_value.h"
 
+#include "base/text.h"
+#include "checks/run_state.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
 #include "las/sections.h"
-#include "las/text.h"
-#include "run/run_state.h"
 
 namespace zorvik {
 

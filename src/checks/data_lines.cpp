@@ -1,10 +1,10 @@
-#include "cert2/data_lines.h"
+#include "checks/data_lines.h"
 
 #include <cmath>
 
+#include "base/text.h"
+#include "checks/run_state.h"
 #include "las/sections.h"
-#include "las/text.h"
-#include "run/run_state.h"
 
 namespace zorvik {
 

@@ -1,4 +1,4 @@
-#include "run/file_helpers.h"
+#include "base/file_helpers.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -6,7 +6,7 @@
 #include <cerrno>
 
 #include "base/file_writer.h"
-#include "las/text.h"
+#include "base/text.h"
 
 namespace zorvik {
 

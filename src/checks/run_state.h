@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "cert2/data_scan.h"
 #include "checks/check_table.h"
+#include "checks/data_scan.h"
 #include "las/section_types.h"
 
 namespace zorvik {

@@ -1,8 +1,8 @@
-#include "run/clock.h"
+#include "base/clock.h"
 
 #include <ctime>
 
-#include "las/text.h"
+#include "base/text.h"
 
 namespace zorvik {
 

@@ -1,4 +1,4 @@
-#include "cert3/section_structure.h"
+#include "checks/section_structure.h"
 
 #include <algorithm>
 #include <exception>
@@ -7,10 +7,10 @@
 #include <unordered_set>
 #include <vector>
 
-#include "cert3/title_lines.h"
+#include "base/text.h"
+#include "checks/run_state.h"
+#include "checks/title_lines.h"
 #include "las/sections.h"
-#include "las/text.h"
-#include "run/run_state.h"
 
 namespace zorvik {
 namespace {

@@ -1,7 +1,7 @@
-#include "cert2/version_checks.h"
+#include "checks/version_checks.h"
 
-#include "las/text.h"
-#include "run/run_state.h"
+#include "base/text.h"
+#include "checks/run_state.h"
 
 namespace zorvik {
 

@@ -1,16 +1,16 @@
-#include "cert2/index_range.h"
+#include "checks/index_range.h"
 
 #include <algorithm>
 #include <cmath>
 #include <vector>
 
-#include "cert2/data_lines.h"
+#include "base/command_log.h"
+#include "base/text.h"
+#include "checks/data_lines.h"
+#include "checks/run_state.h"
+#include "checks/window_ops.h"
 #include "las/line_reader.h"
 #include "las/sections.h"
-#include "las/text.h"
-#include "run/command_log.h"
-#include "run/run_state.h"
-#include "run/window_ops.h"
 #include "transform/param_writer.h"
 #include "transform/wrap.h"
 
