@@ -11,7 +11,6 @@
 
 #include "base/clock.h"
 #include "base/file_writer.h"
-#include "checks/run_state.h"
 
 namespace zorvik {
 
@@ -94,19 +93,18 @@ void setCommandLogSink(std::function<void(const std::string& message)> next) {
   sink() = std::move(next);
 }
 
-void writeCommandLog(const std::string& message) {
+void writeCommandLog(const CommandLogHeader& header, std::string_view message) {
   if (sink()) {
-    sink()(message);
+    sink()(std::string(message));
     return;
   }
-  const RunState& state = runState();
   std::string entry = commandLogDate(localNow());
   entry += '\t';
-  entry += state.lasFile;
+  entry += header.lasFile;
   entry += '\t';
-  entry += state.logFile;
+  entry += header.logFile;
   entry += '\t';
-  entry += state.statusLine;
+  entry += header.statusLine;
   entry += "\r\n";
   entry += message;
   entry += "\r\n";

@@ -12,12 +12,20 @@
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace zorvik {
 
 inline constexpr std::size_t COMMAND_LOG_ENTRY_CAP = 4000;
 
-void writeCommandLog(const std::string& message);
+// What the header line of an entry names: the run's LAS file, its log file and the status line.
+struct CommandLogHeader {
+  std::string_view lasFile;
+  std::string_view logFile;
+  std::string_view statusLine;
+};
+
+void writeCommandLog(const CommandLogHeader& header, std::string_view message);
 
 // `entry` cut to COMMAND_LOG_ENTRY_CAP bytes with a marker and a line end when longer.
 std::string cappedEntry(std::string entry);

@@ -40,12 +40,12 @@ void judgeRecords(const std::string& fileName, std::int64_t start, const RecordR
 
 int dataChannelDefinitions(const std::string& fileName, const SectionEntry& dataSection,
                            const ParamTable& curveTable, std::string& definitionName) {
-  const std::string& curveName = runState().curveSectionName;
+  const std::string& curveName = runState().sections.curveName;
   std::string_view association = trimView(dataSection.association);
   definitionName = curveName;
   if (association.empty() || iequals(association, curveName)) return curveTable.lastEntry();
   ParamTable own;
-  parseSectionTable(fileName, own, association);
+  parseSectionTable(fileName, runState().dialect, runState().sections, own, association);
   definitionName = std::string(association);
   return own.lastEntry();
 }
@@ -63,7 +63,7 @@ int checkAsciiSection(const std::string& fileName, const std::string& wrapValue,
                       int channels, const ParamTable& curveTable, Slots& slots) {
   for (int k = 1; k <= 4; ++k) slots[k].clear();
   RunState& state = runState();
-  const std::vector<SectionEntry> index = state.sectionIndex;
+  const std::vector<SectionEntry> index = state.sections.entries;
   std::int64_t length = fileLength(fileName);
 
   for (const SectionEntry& section : index) {
@@ -76,7 +76,7 @@ int checkAsciiSection(const std::string& fileName, const std::string& wrapValue,
       LineReader file(fileName);
       file.seek(section.start);
       std::string_view line;
-      values = file.readLine(line) ? countWords(line, state.dataDelimiter) : 0;
+      values = file.readLine(line) ? countWords(line, state.dialect.delimiter) : 0;
     }
     if (definitions != values) {
       slots[1] = "~" + definitionName + " has " + toText(definitions) +

@@ -58,8 +58,9 @@ std::string currentDelimiter(const std::string& fileName) {
 // one is not there. False when loading failed (not when the section is missing).
 bool loadHeaderTable(const std::string& fileName, ParamTable& table, std::string_view name,
                      std::string_view letter) {
-  int loaded = parseSectionTable(fileName, table, name);
-  if (loaded == 1 && !isVersion3()) loaded = parseSectionTable(fileName, table, letter);
+  int loaded = parseSectionTable(fileName, runState().dialect, runState().sections, table, name);
+  if (loaded == 1 && !isVersion3())
+    loaded = parseSectionTable(fileName, runState().dialect, runState().sections, table, letter);
   return loaded != 0;
 }
 
@@ -110,8 +111,8 @@ Next runChecks(const std::string& fileName, const Certify2Checks& checks) {
   int result = CHECK_FAULT;
   Next next = Next::Go;
 
-  rs.dataDelimiter = currentDelimiter(fileName);
-  if (!locateStandardSections(fileName)) {
+  rs.dialect.delimiter = currentDelimiter(fileName);
+  if (!locateStandardSections(fileName, runState().dialect, runState().sections)) {
     Slots none;
     if (afterCheck(0, result, none) == Next::Cancel) return Next::Cancel;
     throw RunFailed{};
@@ -123,12 +124,14 @@ Next runChecks(const std::string& fileName, const Certify2Checks& checks) {
   ParamTable paramTable;
   if (!loadHeaderTable(fileName, versionTable, "Version", "V")) throw RunFailed{};
   if (!loadHeaderTable(fileName, wellTable, "Well", "W")) throw RunFailed{};
-  if (!rs.curveSectionName.empty() &&
-      parseSectionTable(fileName, curveTable, rs.curveSectionName) == 0) {
+  if (!rs.sections.curveName.empty() &&
+      parseSectionTable(fileName, runState().dialect, runState().sections, curveTable,
+                        rs.sections.curveName) == 0) {
     throw RunFailed{};
   }
-  if (!rs.paramSectionName.empty() &&
-      parseSectionTable(fileName, paramTable, rs.paramSectionName) == 0) {
+  if (!rs.sections.paramName.empty() &&
+      parseSectionTable(fileName, runState().dialect, runState().sections, paramTable,
+                        rs.sections.paramName) == 0) {
     throw RunFailed{};
   }
 
@@ -136,7 +139,7 @@ Next runChecks(const std::string& fileName, const Certify2Checks& checks) {
   std::string wrapValue;
   Slots slots = presetSlots(6);
   result = checks.versionSection(versionTable, wrapValue, slots);
-  rs.dataDelimiter = currentDelimiter(fileName);
+  rs.dialect.delimiter = currentDelimiter(fileName);
   if ((next = afterCheck(2, result, slots)) != Next::Go) return next;
 
   // Group 3: section titles.
@@ -174,7 +177,7 @@ Next runChecks(const std::string& fileName, const Certify2Checks& checks) {
   slots = presetSlots(7);
   if (asciiHasOnlyData) {
     rs.nullStopRepaired = false;
-    result = rs.standardSectionsFound
+    result = rs.sections.standardFound
                  ? checks.indexRange(fileName, well, wrapValue, wellTable, curveTable, slots)
                  : CHECK_PASSED;
   }

@@ -7,9 +7,9 @@
 #include "checks/data_lines.h"
 #include "checks/data_scan.h"
 #include "checks/run_state.h"
+#include "checks/wrap_layout.h"
 #include "las/line_reader.h"
 #include "las/v3_line.h"
-#include "transform/wrap.h"
 
 namespace zorvik {
 
@@ -81,10 +81,13 @@ void judgeDataLines(LineReader& file, bool tabDelimited, Slots& slots, DataWalks
 void judgeHeaderLine(std::string_view line, bool tabDelimited, Slots& slots) {
   switch (classifyHeaderLine(line)) {
     case LINE_OK:
-      if (!isValidMnemonic(fieldMnemonic(line))) addFinding(slots[1], "Illegal mnemonic: ", line);
-      if (!isLegalUnitText(fieldUnit(line))) addFinding(slots[2], "Illegal Unit: ", line);
-      if (!isLegalValueText(fieldValue(line))) addFinding(slots[3], "Illegal Value: ", line);
-      if (!isLegalDescriptionText(fieldDescription(line)))
+      if (!isValidMnemonic(fieldMnemonic(line), runState().dialect))
+        addFinding(slots[1], "Illegal mnemonic: ", line);
+      if (!isLegalUnitText(fieldUnit(line), runState().dialect))
+        addFinding(slots[2], "Illegal Unit: ", line);
+      if (!isLegalValueText(fieldValue(line), runState().dialect))
+        addFinding(slots[3], "Illegal Value: ", line);
+      if (!isLegalDescriptionText(fieldDescription(line), runState().dialect))
         addFinding(slots[4], "Illegal Description: ", line);
       if (!tabDelimited && hasTab(line)) addFinding(slots[4], "Tab character(s) found.", line);
       break;
@@ -132,7 +135,7 @@ std::string wrapMessage(int structure, const std::string& wrapValue) {
 // group 6 would not find by its name, are left to their own reading); null when none.
 const SectionEntry* walkedDataSection(const std::string& fileName) {
   const SectionEntry* data = nullptr;
-  for (const SectionEntry& section : runState().sectionIndex) {
+  for (const SectionEntry& section : runState().sections.entries) {
     if (section.role != ROLE_DATA) continue;
     if (data != nullptr) return nullptr;
     data = &section;
@@ -167,7 +170,7 @@ int checkLineSyntax(const std::string& fileName, const std::string& wrapValue,
   LineReader file;
   if (!file.open(fileName)) return CHECK_FAULT;
   const SectionEntry* walked = walkedDataSection(fileName);
-  for (const SectionEntry& section : state.sectionIndex) {
+  for (const SectionEntry& section : state.sections.entries) {
     if (section.role == ROLE_DATA) {
       file.seek(section.start);
       if (&section != walked) {

@@ -73,7 +73,8 @@ std::vector<Element> definitionLines(LineReader& reader, const SectionEntry& sec
   std::string_view line;
   reader.seek(section.start);
   while (readSectionLine(reader, line)) {
-    if (parseV3Line(line, name, diagnostics) != V3_PDL) continue;
+    if (parseV3Line(line, name, runState().dialect, runState().sections, diagnostics) != V3_PDL)
+      continue;
     Element e;
     e.mnemonic = fieldMnemonic(line);
     e.unit = fieldUnit(line);
@@ -158,7 +159,7 @@ int checkArrayChannels(const std::string& fileName, Slots& slots) {
     LineReader reader;
     if (reader.open(fileName)) {
       // Findings of every definition section are kept, one section after the other.
-      for (const SectionEntry& entry : runState().sectionIndex) {
+      for (const SectionEntry& entry : runState().sections.entries) {
         if (entry.role == ROLE_DEFINITION && !checkSection(definitionLines(reader, entry), slots))
           skipped = true;
       }

@@ -20,7 +20,7 @@ MnemonicTable buildMnemonicTable(const std::string& fileName) {
   if (!reader.open(fileName)) return table;
   V3LineDiagnostics diagnostics;
   std::string_view line;
-  for (const SectionEntry& entry : runState().sectionIndex) {
+  for (const SectionEntry& entry : runState().sections.entries) {
     // Column data lines carry no mnemonics; skipping them keeps the table to the header lines.
     if (entry.role == ROLE_DATA) continue;
     reader.seek(entry.start);
@@ -28,13 +28,15 @@ MnemonicTable buildMnemonicTable(const std::string& fileName) {
     while (readSectionLine(reader, line)) {
       // The table holds every line the 3.0 parser reads as a parameter line: header, parameter
       // and definition lines alike.
-      if (parseV3Line(line, section, diagnostics) != V3_PDL) continue;
+      if (parseV3Line(line, section, runState().dialect, runState().sections, diagnostics) !=
+          V3_PDL)
+        continue;
       MnemonicRow row;
       row.mnemonic = fieldMnemonic(line);
       row.unit = fieldUnit(line);
       row.value = fieldValue(line);
       row.description = fieldDescription(line);
-      row.association = fieldAssociation(line, row.entries);
+      row.association = fieldAssociation(line, runState().dialect.delimiter, row.entries);
       table.add(std::move(row));
     }
   }

@@ -61,7 +61,7 @@ void clearAllButGroup1(CheckTable& table) {
 void storeDataDelimiter(const std::string& fileName) {
   const std::string word = lookupFileValue(fileName, "DLM", "Version");
   const std::string delimiter = delimiterForWord(word);
-  runState().dataDelimiter = delimiter.empty() ? " " : delimiter;
+  runState().dialect.delimiter = delimiter.empty() ? " " : delimiter;
 }
 
 void presetSlots(Slots& slots, std::initializer_list<int> undecided) {
@@ -108,17 +108,20 @@ Next afterCheck(int group, int code, const Slots& slots) {
 
 void readHeaderTables(const std::string& fileName, HeaderTables& tables) {
   const RunState& rs = runState();
-  parseSectionTable(fileName, tables.version, "Version");
-  parseSectionTable(fileName, tables.well, "Well");
-  if (!rs.curveSectionName.empty()) parseSectionTable(fileName, tables.curve, rs.curveSectionName);
-  if (!rs.paramSectionName.empty())
-    parseSectionTable(fileName, tables.parameter, rs.paramSectionName);
+  parseSectionTable(fileName, runState().dialect, runState().sections, tables.version, "Version");
+  parseSectionTable(fileName, runState().dialect, runState().sections, tables.well, "Well");
+  if (!rs.sections.curveName.empty())
+    parseSectionTable(fileName, runState().dialect, runState().sections, tables.curve,
+                      rs.sections.curveName);
+  if (!rs.sections.paramName.empty())
+    parseSectionTable(fileName, runState().dialect, runState().sections, tables.parameter,
+                      rs.sections.paramName);
 }
 
 // The catalogue names the data section and the country in some of its titles.
 void layOutCatalogueForFile(const HeaderTables& tables) {
   RunState& rs = runState();
-  rs.dataSectionTitle = rs.dataSectionName.empty() ? "" : "~" + rs.dataSectionName;
+  rs.dataSectionTitle = rs.sections.dataName.empty() ? "" : "~" + rs.sections.dataName;
   rs.countryCode = trim(mnemonicValue(tables.well, "CTRY"));
   layOutCatalogue();
 }
@@ -138,7 +141,7 @@ void runGroups(const std::string& fileName) {
   if (afterCheck(0, code, slots) == Next::Stop) return;
 
   storeDataDelimiter(fileName);
-  locateStandardSections(fileName);
+  locateStandardSections(fileName, runState().dialect, runState().sections);
   HeaderTables tables;
   readHeaderTables(fileName, tables);
   layOutCatalogueForFile(tables);
@@ -164,7 +167,7 @@ void runGroups(const std::string& fileName) {
 
   presetSlots(slots, {1, 2, 3, 4, 5, 6, 7});
   rs.nullStopRepaired = false;
-  code = rs.standardSectionsFound
+  code = rs.sections.standardFound
              ? checkIndexRange(fileName, range, wrapValue, tables.well, tables.curve, slots)
              : CHECK_PASSED;
   if (afterCheck(6, code, slots) == Next::Stop) return;

@@ -22,13 +22,13 @@ namespace {
 class ColumnDataCheck {
  public:
   ColumnDataCheck(const std::string& fileName, Slots& slots) : fileName_(fileName), slots_(slots) {
-    const std::string& d = runState().dataDelimiter;
+    const std::string& d = runState().dialect.delimiter;
     delimiter_ = d.empty() ? ' ' : d.front();
   }
 
   void run() {
     if (!reader_.open(fileName_)) return;
-    for (const SectionEntry& entry : runState().sectionIndex) {
+    for (const SectionEntry& entry : runState().sections.entries) {
       if (entry.role == ROLE_DATA) checkSection(entry);
     }
     budget2_.closeInto(slots_[2]);
@@ -39,7 +39,9 @@ class ColumnDataCheck {
   void checkSection(const SectionEntry& data) {
     std::string definitionName = definitionSectionFor(data);
     ParamTable definitions;
-    if (!definitionName.empty()) parseSectionTable(fileName_, definitions, definitionName);
+    if (!definitionName.empty())
+      parseSectionTable(fileName_, runState().dialect, runState().sections, definitions,
+                        definitionName);
     const int channels = definitions.lastEntry();
     formats_.clear();
     for (int k = 1; k <= channels; ++k) {
@@ -141,15 +143,15 @@ std::string definitionSectionFor(const SectionEntry& dataSection) {
   std::size_t underscore = dataSection.name.find('_');
   if (underscore != std::string::npos) {
     std::string_view prefix = trimView(std::string_view(dataSection.name).substr(0, underscore));
-    for (const SectionGroup& group : state.sectionGroups) {
+    for (const SectionGroup& group : state.sections.groups) {
       if (!iequals(group.prefix, prefix) || group.definition <= 0) continue;
       std::size_t number = static_cast<std::size_t>(group.definition);
-      if (number <= state.sectionIndex.size()) return state.sectionIndex[number - 1].name;
+      if (number <= state.sections.entries.size()) return state.sections.entries[number - 1].name;
     }
   }
   int arrayIndex = -1;
   if (iequals(splitArrayIndex(dataSection.name, arrayIndex), "ASCII"))
-    return state.curveSectionName;
+    return state.sections.curveName;
   return {};
 }
 

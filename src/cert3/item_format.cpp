@@ -1,5 +1,6 @@
 #include "cert3/item_format.h"
 
+#include "checks/run_state.h"
 #include "las/value_format.h"
 
 namespace zorvik {
@@ -45,7 +46,7 @@ ItemFormat parseItemFormat(std::string_view format) {
 }
 
 bool itemFitsFormatFully(std::string_view item, const ItemFormat& format) {
-  return valueMatchesFormat(item, format.text) == -1;
+  return valueMatchesFormat(item, format.text, runState().dialect.delimiter) == -1;
 }
 
 }  // namespace zorvik

@@ -43,8 +43,8 @@ class LineStructureCheck {
   void run(const std::string& fileName) {
     LineReader reader;
     if (!reader.open(fileName)) return;
-    const auto& index = runState().sectionIndex;
-    const std::string& delimiterText = runState().dataDelimiter;
+    const auto& index = runState().sections.entries;
+    const std::string& delimiterText = runState().dialect.delimiter;
     delimiter_ = delimiterText.empty() ? ' ' : delimiterText.front();
     std::size_t cursor = 0;
     std::string section;
@@ -74,7 +74,7 @@ class LineStructureCheck {
 
  private:
   void fileParserFindings(std::string_view line, std::string& section) {
-    parseV3Line(line, section, diagnostics_);
+    parseV3Line(line, section, runState().dialect, runState().sections, diagnostics_);
     for (int k = 1; k <= 10; ++k) {
       if (k == 4 || diagnostics_[k].empty()) continue;
       std::string_view label = k < 4 ? kLabels[k] : std::string_view();

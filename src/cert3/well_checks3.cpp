@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "base/text.h"
+#include "checks/run_state.h"
 #include "las/sections.h"
 
 namespace zorvik {
@@ -45,7 +46,7 @@ std::string missingLocation(const ParamTable& table, const std::string_view (&li
 std::string lineAsWritten(const std::string& fileName, std::string_view section,
                           const ParamTable& table, int entry) {
   const std::string_view mnemonic = table.at(FIELD_MNEMONIC, entry);
-  const std::string text = sectionText(fileName, section);
+  const std::string text = sectionText(fileName, runState().dialect, runState().sections, section);
   std::size_t begin = 0;
   while (begin < text.size()) {
     std::size_t end = text.find('\r', begin);

@@ -10,12 +10,16 @@ namespace zorvik {
 
 std::int64_t firstDataLinePosition(const std::string& fileName) {
   RunState& state = runState();
-  if (state.sectionIndex.empty()) buildSectionIndex(fileName);
-  if (!state.dataSectionName.empty()) {
+  if (state.sections.entries.empty())
+    buildSectionIndex(fileName, runState().dialect, runState().sections);
+  if (!state.sections.dataName.empty()) {
     std::string found;
-    if (std::int64_t pos = findSection(fileName, state.dataSectionName, found); pos > 0) return pos;
+    if (std::int64_t pos = findSection(fileName, runState().dialect, runState().sections,
+                                       state.sections.dataName, found);
+        pos > 0)
+      return pos;
   }
-  for (const SectionEntry& section : state.sectionIndex)
+  for (const SectionEntry& section : state.sections.entries)
     if (section.role == ROLE_DATA) return section.start;
   return 0;
 }
@@ -25,7 +29,7 @@ bool noDataAt(std::int64_t pos, std::int64_t fileLength) {
 }
 
 char dataDelimiterChar() {
-  const std::string& d = runState().dataDelimiter;
+  const std::string& d = runState().dialect.delimiter;
   return d.empty() ? ' ' : d[0];
 }
 

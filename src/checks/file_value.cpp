@@ -33,7 +33,7 @@ std::string lookupFileValue(const std::string& fileName, std::string_view mnemon
                             std::string_view sectionName, std::string* unit, bool* notFound) {
   if (unit) unit->clear();
   if (notFound) *notFound = false;
-  float version = runState().lasVersion;
+  float version = runState().dialect.version;
   if (version <= 0) version = 2.0f;
   if (trimView(mnemonic).empty()) return {};
 
@@ -41,7 +41,10 @@ std::string lookupFileValue(const std::string& fileName, std::string_view mnemon
   if (!file.open(fileName)) return {};
   if (!sectionName.empty()) {
     std::string found;
-    if (std::int64_t pos = findSection(fileName, sectionName, found); pos > 0) file.seek(pos);
+    if (std::int64_t pos =
+            findSection(fileName, runState().dialect, runState().sections, sectionName, found);
+        pos > 0)
+      file.seek(pos);
   }
 
   std::string_view line;

@@ -9,10 +9,10 @@
 #include "checks/data_lines.h"
 #include "checks/run_state.h"
 #include "checks/window_ops.h"
+#include "checks/wrap_layout.h"
 #include "las/line_reader.h"
 #include "las/sections.h"
 #include "transform/param_writer.h"
-#include "transform/wrap.h"
 
 namespace zorvik {
 
@@ -28,7 +28,7 @@ bool isTitle(std::string_view trimmedLeft) {
 // Where the data section that starts at `start` ends: the start of the next section's title
 // (approximately: the line after it, which the tail search stops at anyway), or past the end.
 std::int64_t dataSectionEnd(std::int64_t start, std::int64_t fileLength) {
-  const auto& index = runState().sectionIndex;
+  const auto& index = runState().sections.entries;
   for (std::size_t i = 0; i + 1 < index.size(); ++i)
     if (index[i].start == start) return index[i + 1].start;
   return fileLength + 1;
@@ -182,7 +182,7 @@ int checkIndexRange(const std::string& fileName, const WellRange& well,
                     const std::string& wrapValue, const ParamTable& wellTable,
                     const ParamTable& curveTable, Slots& slots) {
   RunState& state = runState();
-  const std::string& dataName = state.dataSectionName;
+  const std::string& dataName = state.sections.dataName;
 
   // Presence: without all four values nothing else can be compared.
   slots[1].clear();
@@ -247,7 +247,8 @@ int checkIndexRange(const std::string& fileName, const WellRange& well,
     stop.number = ends.last;
     state.nullStopRepaired = true;
     state.dataScan = {};
-    buildSectionIndex(fileName);  // the header changed length: stored positions moved
+    buildSectionIndex(fileName, runState().dialect,
+                      runState().sections);  // the header changed length: stored positions moved
   }
 
   slots[4].clear();

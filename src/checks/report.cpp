@@ -59,7 +59,7 @@ const CheckTable& reportTable() {
 }
 
 std::string verdict(const CheckTable& table) {
-  float version = runState().lasVersion;
+  float version = runState().dialect.version;
   if (!anyFailure(table))
     return "LAS file PASSED Ver " + formatShortest(version) + " Certification";
   if (isKnownVersion(version))

@@ -1,5 +1,7 @@
 #include "checks/run_state.h"
 
+#include "base/command_log.h"
+
 namespace zorvik {
 
 RunState& runState() {
@@ -14,7 +16,12 @@ void resetRunState() {
 }
 
 bool isVersion3() {
-  return runState().lasVersion == 3.0f;
+  return runState().dialect.isV3();
+}
+
+void writeCommandLog(const std::string& message) {
+  const RunState& state = runState();
+  writeCommandLog(CommandLogHeader{state.lasFile, state.logFile, state.statusLine}, message);
 }
 
 }  // namespace zorvik

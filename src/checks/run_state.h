@@ -10,13 +10,12 @@
 
 #include "checks/check_table.h"
 #include "checks/data_scan.h"
+#include "las/dialect.h"
 #include "las/section_types.h"
 
 namespace zorvik {
 
 class WindowOps;
-
-inline constexpr float NO_VERSION = -999.25f;
 
 struct RunState {
   // Command line and mode.
@@ -36,18 +35,12 @@ struct RunState {
   int repairChoice = 0;  // 0, 1 or 2: the window's repair option state
 
   // What the run has learnt of the file.
-  float lasVersion = NO_VERSION;  // 0 when the sniff failed
-  std::string dataDelimiter = " ";
+  Dialect dialect;
   std::string dataSectionTitle;  // 3.0 data section title shown in the catalogue's group 6
   std::string countryCode;       // CTRY code shown in the 3.0 catalogue's check 5.5
 
   // Section model of the current file.
-  std::vector<SectionEntry> sectionIndex;
-  std::vector<SectionGroup> sectionGroups;
-  std::string dataSectionName;
-  std::string curveSectionName;
-  std::string paramSectionName;
-  bool standardSectionsFound = false;
+  SectionIndex sections;
 
   // Cooperation with the window.
   bool escapePressed = false;
@@ -70,5 +63,8 @@ void resetRunState();
 
 // True when the run state's version is exactly 3.0 (single precision).
 bool isVersion3();
+
+// Appends `message` to the command log under the run's LAS file, log file and status line.
+void writeCommandLog(const std::string& message);
 
 }  // namespace zorvik

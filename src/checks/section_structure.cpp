@@ -164,8 +164,8 @@ void minimumSections3(const std::vector<Title>& titles, std::string& slot) {
     version = version || iequals(t.name, "Version");
     well = well || iequals(t.name, "Well");
     definition =
-        definition || (!rs.curveSectionName.empty() && iequals(t.text, rs.curveSectionName));
-    data = data || (!rs.dataSectionName.empty() && iequals(t.text, rs.dataSectionName));
+        definition || (!rs.sections.curveName.empty() && iequals(t.text, rs.sections.curveName));
+    data = data || (!rs.sections.dataName.empty() && iequals(t.text, rs.sections.dataName));
     if (version && well && definition && data) break;
   }
   slot.clear();
@@ -387,8 +387,10 @@ int checkSectionStructure(const std::string& fileName, Slots& slots) {
     for (int k = 1; k <= 14; ++k) slots[k] = (v3 || k <= 3) ? " " : "";
 
     RunState& rs = runState();
-    if (rs.sectionIndex.empty() && !buildSectionIndex(fileName)) return CHECK_FAULT;
-    const std::vector<Title> titles = titlesOf(rs.sectionIndex);
+    if (rs.sections.entries.empty() &&
+        !buildSectionIndex(fileName, runState().dialect, runState().sections))
+      return CHECK_FAULT;
+    const std::vector<Title> titles = titlesOf(rs.sections.entries);
 
     if (!v3) {
       minimumSections2(titles, slots[1]);

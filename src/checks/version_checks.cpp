@@ -11,7 +11,7 @@ const std::string kBlank = " ";
 
 // The first section titled "Version" (or "V" outside 3.0) in the section index.
 bool versionSectionPresent(bool v3) {
-  for (const SectionEntry& entry : runState().sectionIndex) {
+  for (const SectionEntry& entry : runState().sections.entries) {
     if (iequals(entry.name, "Version") || (!v3 && iequals(entry.name, "V"))) return true;
   }
   return false;
@@ -36,7 +36,7 @@ std::string versValueFinding(const std::string& vers) {
            ". Version must be 1.2, 2 or 3 before other checks can be attempted";
   }
   float asFloat = static_cast<float>(value);
-  float& version = runState().lasVersion;
+  float& version = runState().dialect.version;
   if (asFloat != version) {
     return "Mismatched VERS value, " + vers + "and " + formatShortest(version) +
            ". Version intially determined and read from VERS are different.";

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/text.h"
-#include "checks/run_state.h"
 #include "las/sections.h"
 #include "las/value_format.h"
 
@@ -105,12 +104,12 @@ std::string fieldFormat(std::string_view line) {
   return std::string(f);
 }
 
-std::string fieldAssociation(std::string_view line, std::vector<std::string>& parts) {
+std::string fieldAssociation(std::string_view line, std::string_view delimiter,
+                             std::vector<std::string>& parts) {
   parts.assign(1, std::string());
   std::size_t bar = lastPos(line, '|');
   if (bar == 0) return {};
   std::string a = trim(line.substr(bar));
-  const std::string& delimiter = runState().dataDelimiter;
   parts = delimiter == " " ? splitOnBlanks(a) : split(a, delimiter);
   return a;
 }
@@ -120,10 +119,10 @@ std::string fieldAssociation(std::string_view line) {
   return bar == 0 ? std::string() : trim(line.substr(bar));
 }
 
-bool isValidMnemonic(std::string_view text) {
+bool isValidMnemonic(std::string_view text, const Dialect& dialect) {
   std::string_view t = trimView(text);
   if (t.empty()) return false;
-  if (!isVersion3()) return t.find_first_of(" .:") == std::string_view::npos;
+  if (!dialect.isV3()) return t.find_first_of(" .:") == std::string_view::npos;
   if (t.find_first_of(", \t.:{}|;") != std::string_view::npos) return false;
   std::size_t open = firstPos(t, '[');
   std::size_t close = firstPos(t, ']');
@@ -165,16 +164,16 @@ bool mnemonicListHas(std::string_view list, std::string_view mnemonic) {
   return false;
 }
 
-int parseSectionTable(const std::string& fileName, ParamTable& table,
-                      std::string_view sectionName) {
+int parseSectionTable(const std::string& fileName, const Dialect& dialect, SectionIndex& index,
+                      ParamTable& table, std::string_view sectionName) {
   table.reset();
-  std::string text = sectionText(fileName, sectionName);
+  std::string text = sectionText(fileName, dialect, index, sectionName);
   if (text.empty()) return 1;
   std::erase(text, '\n');
   // Compared with each line's own period position: a line without a colon of its own still
   // counts when the section's last colon lies further right than its period.
   std::size_t lastColon = lastPos(text, ':');
-  const bool keepTabs = runState().dataDelimiter == "\t";
+  const bool keepTabs = dialect.delimiter == "\t";
   std::string validList;
   std::string line;
   std::size_t start = 0;
@@ -191,7 +190,7 @@ int parseSectionTable(const std::string& fileName, ParamTable& table,
     table.entries.push_back({fieldMnemonic(line), fieldUnit(line), fieldValue(line),
                              fieldDescription(line), fieldFormat(line), fieldAssociation(line)});
     const std::string& mnemonic = table.entries.back()[FIELD_MNEMONIC];
-    if (isValidMnemonic(mnemonic)) validList += mnemonic + " ";
+    if (isValidMnemonic(mnemonic, dialect)) validList += mnemonic + " ";
   }
   table.entries[0][FIELD_MNEMONIC] = validList;
   return -1;

@@ -10,6 +10,9 @@
 #include <string_view>
 #include <vector>
 
+#include "las/dialect.h"
+#include "las/section_types.h"
+
 namespace zorvik {
 
 enum LineKind : int {
@@ -35,10 +38,11 @@ std::string fieldValue(std::string_view line);
 std::string fieldDescription(std::string_view line);
 std::string fieldFormat(std::string_view line);
 // The association text after the last "|"; `parts` receives it split on the data delimiter.
-std::string fieldAssociation(std::string_view line, std::vector<std::string>& parts);
+std::string fieldAssociation(std::string_view line, std::string_view delimiter,
+                             std::vector<std::string>& parts);
 std::string fieldAssociation(std::string_view line);
 
-bool isValidMnemonic(std::string_view text);
+bool isValidMnemonic(std::string_view text, const Dialect& dialect);
 // Number of fields of `text` split on `separator`. A single-space separator trims the text first
 // and counts a run of spaces as one. An empty (or, for a space, blank) text has no fields: 0.
 int countWords(std::string_view text, std::string_view separator);
@@ -69,7 +73,8 @@ struct ParamTable {
 };
 
 // Builds the table of section `sectionName` of the file: -1 built, 1 when the section has no text.
-int parseSectionTable(const std::string& fileName, ParamTable& table, std::string_view sectionName);
+int parseSectionTable(const std::string& fileName, const Dialect& dialect, SectionIndex& index,
+                      ParamTable& table, std::string_view sectionName);
 
 // The value of the first entry whose mnemonic equals `mnemonic` (ignoring case); a single space
 // when no entry has it.

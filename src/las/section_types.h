@@ -1,4 +1,4 @@
-// Plain data of the section model, kept in the run state.
+// Plain data of the section model.
 #pragma once
 
 #include <cstdint>
@@ -23,7 +23,6 @@ struct SectionEntry {
   std::int64_t start = 0;   // 1-based position of the line after the title line
   int arrayIndex = -1;      // n of a trailing "[n]", -1 without brackets
   int role = ROLE_OTHER;
-  std::string spare;  // left empty by the index build
 };
 
 // A 3.0 section set sharing one name prefix ("Log" for Log_Parameter/Log_Definition/Log_Data).
@@ -33,6 +32,17 @@ struct SectionGroup {
   int data = 0;
   int definition = 0;
   int parameter = 0;
+};
+
+// The sections of one file, in file order, with the 3.0 groups and the names the run found for
+// the standard data, definition and parameter sections ("" when none).
+struct SectionIndex {
+  std::vector<SectionEntry> entries;
+  std::vector<SectionGroup> groups;
+  std::string dataName;
+  std::string curveName;
+  std::string paramName;
+  bool standardFound = false;
 };
 
 }  // namespace zorvik

@@ -5,7 +5,6 @@
 #include <climits>
 
 #include "base/text.h"
-#include "checks/run_state.h"
 #include "las/line_reader.h"
 
 namespace zorvik {
@@ -33,8 +32,7 @@ int roleOfName(std::string_view name, bool v3) {
 }
 
 // Index (0-based) of the first section named `name`, -1 when none.
-int firstSectionNamed(std::string_view name) {
-  const auto& index = runState().sectionIndex;
+int firstSectionNamed(const std::vector<SectionEntry>& index, std::string_view name) {
   for (std::size_t i = 0; i < index.size(); ++i)
     if (iequals(index[i].name, name)) return static_cast<int>(i);
   return -1;
@@ -44,11 +42,10 @@ std::string_view cutAtSpace(std::string_view s) {
   return trimView(s.substr(0, s.find(' ')));
 }
 
-void addToGroups(const SectionEntry& entry, int sectionNumber) {
+void addToGroups(std::vector<SectionGroup>& groups, const SectionEntry& entry, int sectionNumber) {
   std::size_t underscore = entry.name.find('_');
   if (underscore == std::string::npos) return;
   std::string prefix = trim(std::string_view(entry.name).substr(0, underscore));
-  auto& groups = runState().sectionGroups;
   auto group = std::find_if(groups.begin(), groups.end(),
                             [&](const SectionGroup& g) { return iequals(g.prefix, prefix); });
   if (group == groups.end()) {
@@ -100,13 +97,12 @@ std::string splitArrayIndex(std::string_view name, int& index) {
   return std::string(splitArrayIndexView(name, index));
 }
 
-bool buildSectionIndex(const std::string& fileName) {
-  RunState& rs = runState();
-  rs.sectionIndex.clear();
-  rs.sectionGroups.clear();
+bool buildSectionIndex(const std::string& fileName, const Dialect& dialect, SectionIndex& index) {
+  index.entries.clear();
+  index.groups.clear();
   LineReader reader;
   if (!reader.open(fileName)) return false;
-  const bool v3 = isVersion3();
+  const bool v3 = dialect.isV3();
 
   std::string_view line;
   std::string association;
@@ -120,16 +116,16 @@ bool buildSectionIndex(const std::string& fileName) {
     if (!v3 && iequals(name, "ASCII") && trimView(association).empty()) association = "Curve";
     entry.name = std::move(name);
     entry.association = association;
-    rs.sectionIndex.push_back(std::move(entry));
+    index.entries.push_back(std::move(entry));
   }
 
   if (!v3) {
     // A 1.2/2.0 data section always belongs to the file's (last) curve section.
     std::string curve;
-    for (const SectionEntry& e : rs.sectionIndex)
+    for (const SectionEntry& e : index.entries)
       if (istartsWith(e.name, "C")) curve = e.name;
     if (!curve.empty()) {
-      for (SectionEntry& e : rs.sectionIndex) {
+      for (SectionEntry& e : index.entries) {
         if (iequals(e.name, "ASCII") || iequals(e.name, "A")) {
           e.association = curve;
           break;
@@ -138,51 +134,30 @@ bool buildSectionIndex(const std::string& fileName) {
     }
   }
 
-  for (std::size_t i = 0; i < rs.sectionIndex.size(); ++i) {
-    SectionEntry& e = rs.sectionIndex[i];
+  for (std::size_t i = 0; i < index.entries.size(); ++i) {
+    SectionEntry& e = index.entries[i];
     e.role = roleOfName(e.name, v3);
-    addToGroups(e, static_cast<int>(i) + 1);
+    addToGroups(index.groups, e, static_cast<int>(i) + 1);
   }
   return true;
 }
 
-std::int64_t findSection(const std::string& fileName, std::string_view name,
-                         std::string& foundName) {
+std::int64_t findSection(const std::string& fileName, const Dialect& dialect, SectionIndex& index,
+                         std::string_view name, std::string& foundName) {
   foundName.clear();
-  if (runState().sectionIndex.empty() && !buildSectionIndex(fileName)) return 0;
-  int i = firstSectionNamed(name);
+  if (index.entries.empty() && !buildSectionIndex(fileName, dialect, index)) return 0;
+  int i = firstSectionNamed(index.entries, name);
   if (i < 0) return 0;
-  foundName = runState().sectionIndex[i].name;
-  return runState().sectionIndex[i].start;
+  foundName = index.entries[i].name;
+  return index.entries[i].start;
 }
 
-std::int64_t seekSection(LineReader& file, std::string_view name) {
-  name = trimView(name);
-  if (name.empty()) {
-    if (file.isOpen()) file.seek(1);
-    return 0;
-  }
-  if (!runState().sectionIndex.empty()) {
-    std::string found;
-    std::int64_t pos = findSection(runState().lasFile, name, found);
-    if (pos != 0 && file.isOpen()) file.seek(pos);
-    return pos;
-  }
-  // No index to consult: look for the title in the open file itself.
-  if (!file.isOpen()) return 0;
-  file.seek(1);
-  std::string title = "~" + std::string(name);
-  std::string_view line;
-  while (file.readLine(line))
-    if (istartsWith(trimLeftView(line), title)) return file.lineStart();
-  return 0;
-}
-
-std::string sectionText(const std::string& fileName, std::string_view name) {
+std::string sectionText(const std::string& fileName, const Dialect& dialect, SectionIndex& sections,
+                        std::string_view name) {
   std::string found;
-  std::int64_t start = findSection(fileName, name, found);
-  const auto& index = runState().sectionIndex;
-  int i = firstSectionNamed(name);
+  std::int64_t start = findSection(fileName, dialect, sections, name, found);
+  const auto& index = sections.entries;
+  int i = firstSectionNamed(index, name);
   std::int64_t length = fileLength(fileName);
   std::int64_t end = length + 1;  // one past the last byte: the last section reads to the end
   std::string nextTitle;
@@ -204,19 +179,19 @@ std::string sectionText(const std::string& fileName, std::string_view name) {
   return text;
 }
 
-bool locateStandardSections(const std::string& fileName) {
-  RunState& rs = runState();
-  rs.dataSectionName.clear();
-  rs.curveSectionName.clear();
-  rs.paramSectionName.clear();
-  rs.standardSectionsFound = false;
-  buildSectionIndex(fileName);
-  const bool v3 = isVersion3();
+bool locateStandardSections(const std::string& fileName, const Dialect& dialect,
+                            SectionIndex& index) {
+  index.dataName.clear();
+  index.curveName.clear();
+  index.paramName.clear();
+  index.standardFound = false;
+  buildSectionIndex(fileName, dialect, index);
+  const bool v3 = dialect.isV3();
 
   std::string curve, data, param;         // the standard names
   std::string logDef, logData, logParam;  // 3.0 fall-backs by base name
   int unused = 0;
-  for (const SectionEntry& e : rs.sectionIndex) {
+  for (const SectionEntry& e : index.entries) {
     if (iequals(e.name, "Curve") || (!v3 && iequals(e.name, "C"))) curve = e.name;
     if (iequals(e.name, "ASCII") || (!v3 && iequals(e.name, "A"))) data = e.name;
     if (iequals(e.name, "Parameter") || (!v3 && iequals(e.name, "P"))) param = e.name;
@@ -232,15 +207,15 @@ bool locateStandardSections(const std::string& fileName) {
     if (data.empty()) data = logData;
     if (param.empty()) param = logParam;
   }
-  rs.curveSectionName = curve;
-  rs.dataSectionName = data;
-  rs.paramSectionName = param;
-  rs.standardSectionsFound = !data.empty() || !curve.empty() || (v3 && !param.empty());
+  index.curveName = curve;
+  index.dataName = data;
+  index.paramName = param;
+  index.standardFound = !data.empty() || !curve.empty() || (v3 && !param.empty());
   return true;
 }
 
-int sectionRoleOf(std::string_view name) {
-  const auto& index = runState().sectionIndex;
+int sectionRoleOf(const SectionIndex& sections, std::string_view name) {
+  const auto& index = sections.entries;
   for (std::size_t i = index.size(); i-- > 0;)
     if (iequals(index[i].name, name)) return index[i].role;
   return -1;

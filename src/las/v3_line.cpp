@@ -1,7 +1,6 @@
 #include "las/v3_line.h"
 
 #include "base/text.h"
-#include "checks/run_state.h"
 #include "las/header_line.h"
 #include "las/sections.h"
 #include "las/value_format.h"
@@ -20,9 +19,9 @@ bool isPdlSection(std::string_view baseName) {
          icontains(baseName, "_Parameter");
 }
 
-int parseDataLine(std::string_view t, V3LineDiagnostics& d) {
+int parseDataLine(std::string_view t, std::string_view delimiter, V3LineDiagnostics& d) {
   d[SLOT_DATA].clear();
-  if (!contains(t, runState().dataDelimiter)) {
+  if (!contains(t, delimiter)) {
     d[SLOT_LINE_TYPE] = V3_MSG_NO_DELIMITER;
     return V3_BAD;
   }
@@ -31,7 +30,8 @@ int parseDataLine(std::string_view t, V3LineDiagnostics& d) {
 
 // The brace and format tests of a parameter data line; later findings in the brace slot replace
 // earlier ones, so the slot keeps the last fault found.
-void checkFormatPart(std::string_view line, int role, V3LineDiagnostics& d) {
+void checkFormatPart(std::string_view line, int role, std::string_view delimiter,
+                     V3LineDiagnostics& d) {
   std::size_t c = static_cast<std::size_t>(delimiterColon(line));
   std::size_t firstBar = firstPos(line, '|');
   std::size_t lastBar = lastPos(line, '|');
@@ -61,9 +61,11 @@ void checkFormatPart(std::string_view line, int role, V3LineDiagnostics& d) {
     }
     // Header and parameter values are written in their own format; definitions describe the
     // data's format instead.
-    if ((role == ROLE_HEADER || role == ROLE_PARAMETER) && valueMatchesFormat(value, format) == 1)
+    if ((role == ROLE_HEADER || role == ROLE_PARAMETER) &&
+        valueMatchesFormat(value, format, delimiter) == 1)
       d[SLOT_BRACE] = "Bad Format: " + value + " doesn't look like this format: {" + format + "}";
-  } else if (valueMatchesFormat(value, "F") == 1 && valueMatchesFormat(value, "S") == 1) {
+  } else if (valueMatchesFormat(value, "F", delimiter) == 1 &&
+             valueMatchesFormat(value, "S", delimiter) == 1) {
     d[SLOT_BRACE] =
         "Value is not Floating point format, assumed String, but value not string. Value was: " +
         value + ". Format was: {" + format + "}";
@@ -76,36 +78,36 @@ void checkFormatPart(std::string_view line, int role, V3LineDiagnostics& d) {
 
 }  // namespace
 
-bool isLegalUnitText(std::string_view unit) {
+bool isLegalUnitText(std::string_view unit, const Dialect& dialect) {
   std::string_view t = trimView(unit);
-  return isVersion3() ? !holdsAny(t, "\t:{}|;") : !holdsAny(t, "\t:");
+  return dialect.isV3() ? !holdsAny(t, "\t:{}|;") : !holdsAny(t, "\t:");
 }
 
-bool isLegalValueText(std::string_view value) {
-  return !isVersion3() || !holdsAny(trimView(value), "{}|;");
+bool isLegalValueText(std::string_view value, const Dialect& dialect) {
+  return !dialect.isV3() || !holdsAny(trimView(value), "{}|;");
 }
 
-bool isLegalDescriptionText(std::string_view description) {
-  return !isVersion3() || !holdsAny(trimView(description), "\t{}|;");
+bool isLegalDescriptionText(std::string_view description, const Dialect& dialect) {
+  return !dialect.isV3() || !holdsAny(trimView(description), "\t{}|;");
 }
 
 bool isLegalAssociationText(std::string_view association) {
   return !holdsAny(trimView(association), "{};");
 }
 
-bool isLegalAssociationList(std::string_view line) {
+bool isLegalAssociationList(std::string_view line, std::string_view delimiter) {
   std::size_t bar = line.rfind('|');
   if (bar == std::string_view::npos) return true;
   std::string_view a = trimView(line.substr(bar + 1));
   if (!isLegalAssociationText(a)) return false;
   // Names are separated by the data delimiter alone; any other separator mixes styles.
-  const std::string& delimiter = runState().dataDelimiter;
   for (char separator : {',', ' ', '\t'})
     if (delimiter != std::string(1, separator) && contains(a, separator)) return false;
   return true;
 }
 
-int parseV3Line(std::string_view line, std::string& currentSection, V3LineDiagnostics& d) {
+int parseV3Line(std::string_view line, std::string& currentSection, const Dialect& dialect,
+                const SectionIndex& sections, V3LineDiagnostics& d) {
   for (std::string& slot : d) slot.clear();
   std::string_view t = trimView(line);
   if (t.empty()) return V3_BLANK;
@@ -124,10 +126,10 @@ int parseV3Line(std::string_view line, std::string& currentSection, V3LineDiagno
   // Data lines come by the million: their path allocates nothing.
   int index = 0;
   if (!isPdlSection(splitArrayIndexView(currentSection, index))) {
-    const std::string& dataName = runState().dataSectionName;
+    const std::string& dataName = sections.dataName;
     if ((!dataName.empty() && iequals(currentSection, dataName)) ||
         icontains(currentSection, "_Data"))
-      return parseDataLine(t, d);
+      return parseDataLine(t, dialect.delimiter, d);
     d[SLOT_LINE_TYPE] = V3_MSG_UNDEFINED_SECTION;
     return V3_BAD;
   }
@@ -146,17 +148,17 @@ int parseV3Line(std::string_view line, std::string& currentSection, V3LineDiagno
   std::string mnemonic = fieldMnemonic(line);
   // An empty mnemonic would leave the slot empty, which reads as no fault: name it instead, in
   // the words the 1.2/2.0 check uses for the same line.
-  if (!isValidMnemonic(mnemonic))
+  if (!isValidMnemonic(mnemonic, dialect))
     d[SLOT_MNEMONIC] = trimView(mnemonic).empty() ? std::string(V3_MSG_MISSING_MNEMONIC) : mnemonic;
   std::string unit = fieldUnit(line);
-  if (!isLegalUnitText(unit)) d[SLOT_UNIT] = unit;
+  if (!isLegalUnitText(unit, dialect)) d[SLOT_UNIT] = unit;
   std::string value = fieldValue(line);
-  if (!isLegalValueText(value)) d[SLOT_VALUE] = value;
+  if (!isLegalValueText(value, dialect)) d[SLOT_VALUE] = value;
   std::string description = fieldDescription(line);
-  if (!isLegalDescriptionText(description)) d[SLOT_DESCRIPTION] = description;
+  if (!isLegalDescriptionText(description, dialect)) d[SLOT_DESCRIPTION] = description;
 
-  checkFormatPart(line, sectionRoleOf(currentSection), d);
-  if (!isLegalAssociationList(line)) d[SLOT_ASSOCIATION] = std::string(line);
+  checkFormatPart(line, sectionRoleOf(sections, currentSection), dialect.delimiter, d);
+  if (!isLegalAssociationList(line, dialect.delimiter)) d[SLOT_ASSOCIATION] = std::string(line);
   return V3_PDL;
 }
 

@@ -6,6 +6,9 @@
 #include <string>
 #include <string_view>
 
+#include "las/dialect.h"
+#include "las/section_types.h"
+
 namespace zorvik {
 
 enum V3LineType : int {
@@ -58,18 +61,19 @@ inline constexpr const char* V3_MSG_BRACE_ORDER = "Wrong order of { and }";
 inline constexpr const char* V3_MSG_BRACE_AFTER_BAR = "{ or } found after | delimiter";
 
 // Types `line` of the section `currentSection` ("" before the first title; a title line seen
-// then sets it). Reads lasVersion, dataDelimiter, dataSectionName and the section index from the
-// run state. Every slot is emptied first; empty slots after the call mean no fault of that kind.
-int parseV3Line(std::string_view line, std::string& currentSection, V3LineDiagnostics& diagnostics);
+// then sets it), in a file of `dialect` whose sections `sections` lists. Every slot is emptied
+// first; empty slots after the call mean no fault of that kind.
+int parseV3Line(std::string_view line, std::string& currentSection, const Dialect& dialect,
+                const SectionIndex& sections, V3LineDiagnostics& diagnostics);
 
 // Character tests of 3.0 fields (in other versions value and description always pass and the
 // unit test only forbids tab and ":").
-bool isLegalUnitText(std::string_view unit);
-bool isLegalValueText(std::string_view value);
-bool isLegalDescriptionText(std::string_view description);
+bool isLegalUnitText(std::string_view unit, const Dialect& dialect);
+bool isLegalValueText(std::string_view value, const Dialect& dialect);
+bool isLegalDescriptionText(std::string_view description, const Dialect& dialect);
 bool isLegalAssociationText(std::string_view association);
 // The association test of a line: passes without a "|"; otherwise the text after the last "|"
 // must pass `isLegalAssociationText` and separate its names with the data delimiter only.
-bool isLegalAssociationList(std::string_view line);
+bool isLegalAssociationList(std::string_view line, std::string_view delimiter);
 
 }  // namespace zorvik

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "base/text.h"
-#include "checks/run_state.h"
 
 namespace zorvik {
 
@@ -259,12 +258,12 @@ bool isExponentialValue(std::string_view part, std::string_view) {
   return hasE(part) && isNumeric(part);
 }
 
-int valueMatchesFormat(std::string_view value, std::string_view format) {
+int valueMatchesFormat(std::string_view value, std::string_view format,
+                       std::string_view delimiter) {
   if (trimView(value).empty()) return -1;
 
   // One header value may hold several array elements, written with the data delimiter.
   std::vector<std::string_view> parts;
-  const std::string& delimiter = runState().dataDelimiter;
   bool stringFormat = !format.empty() && toUpperAscii(format[0]) == 'S';
   if (!stringFormat && !delimiter.empty() && contains(value, delimiter)) {
     if (delimiter == " ") {

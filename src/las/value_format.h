@@ -7,7 +7,8 @@
 namespace zorvik {
 
 // -1 when the value conforms to the format (braces and array marker already removed), else 1.
-int valueMatchesFormat(std::string_view value, std::string_view format);
+// The elements of an array value are separated by the data `delimiter`.
+int valueMatchesFormat(std::string_view value, std::string_view format, std::string_view delimiter);
 
 bool isFloatValue(std::string_view part, std::string_view spec);
 bool isIntegerValue(std::string_view part, std::string_view spec);

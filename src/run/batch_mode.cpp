@@ -41,7 +41,7 @@ void certify() {
     return;
   }
 
-  state.lasVersion = version;
+  state.dialect.version = version;
   if (version == 1.2f || version == 2.0f) {
     status = aaCertify2(state.lasFile);
   } else if (version == 3.0f) {

@@ -186,7 +186,7 @@ FileCertification run(const std::string& path, const CertifyOptions& options,
     result.rows = rowsOf(state.table2);
     return result;
   }
-  state.lasVersion = version;
+  state.dialect.version = version;
   result.version = versionText(version);
   int status = RUN_FAULT;
   if (version == 1.2f || version == 2.0f) {

@@ -44,14 +44,14 @@ void showOutcome(int percent, const std::string& caption) {
 // in batch mode, so the user still sees what can be checked.
 int dispatch(RunState& state) {
   float version = sniffVersion(state.lasFile);
-  state.lasVersion = version;
+  state.dialect.version = version;
   if (version == 0.0f) {
-    state.lasVersion = 2.0f;
+    state.dialect.version = 2.0f;
     if (windowShown() &&
         !state.window->askOkCancel("LAS Version Not Found!",
                                    "LAS Version was not determined. Proceeding as if Ver 2.0. "))
       return RUN_FAULT;
-    prepareTabs(state.lasVersion);
+    prepareTabs(state.dialect.version);
     return aaCertify2(state.lasFile);
   }
   prepareTabs(version);

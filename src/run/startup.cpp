@@ -105,7 +105,7 @@ int startUp(int argc, char** argv) {
         state.helpFile = programFolder() + "/zorvik.hlp";
         return Next::Step;
       case 4:
-        state.lasVersion = NO_VERSION;
+        state.dialect.version = NO_VERSION;
         state.lasFile.clear();
         state.spareText.clear();
         return Next::Step;

@@ -20,46 +20,6 @@ namespace zorvik {
 
 namespace {
 
-struct SampledLine {
-  int fields = 0;
-  int length = 0;  // right-trimmed
-};
-
-// Field counts of lines first..first+count-1 written one after another ("1", "5", "5" -> "155").
-std::string countPattern(const std::vector<SampledLine>& lines, std::size_t first,
-                         std::size_t count) {
-  std::string pattern;
-  for (std::size_t i = first; i < first + count && i < lines.size(); ++i)
-    pattern += toText(lines[i].fields);
-  return pattern;
-}
-
-// Lets the window repaint and take an Escape press; true when the user asked to cancel.
-bool serviceWindow() {
-  RunState& state = runState();
-  if (state.window == nullptr) return false;
-  state.window->processEvents();
-  return state.escapePressed;
-}
-
-std::int64_t dataSectionStart(const std::string& fileName) {
-  std::string found;
-  for (const std::string& name :
-       {runState().dataSectionName, std::string("Log_Data"), std::string("A")}) {
-    if (name.empty()) continue;
-    if (std::int64_t pos = findSection(fileName, name, found); pos > 0) return pos;
-  }
-  return 0;
-}
-
-int curveLineCount(const std::string& fileName) {
-  const std::string& curve = runState().curveSectionName;
-  if (curve.empty()) return 0;
-  ParamTable table;
-  parseSectionTable(fileName, table, curve);
-  return table.lastEntry();
-}
-
 void reportUnwrapFailure(const std::string& systemText) {
   if (WindowOps* window = runState().window)
     window->showCritical("Un-expected Error",
@@ -67,59 +27,6 @@ void reportUnwrapFailure(const std::string& systemText) {
                          "conversion is likely incomplete. The system error message was: \r\n\r\n" +
                              systemText);
 }
-
-}  // namespace
-
-int analyseWrap(const std::string& fileName, int& linesPerRecord, int& bufferLength, int& channels,
-                int sampleHint) {
-  linesPerRecord = bufferLength = channels = 0;
-  std::int64_t start = dataSectionStart(fileName);
-  LineReader file;
-  if (start <= 0 || !file.open(fileName) || start >= file.length()) return WRAP_UNDETERMINED;
-  const std::string& delimiter =
-      runState().dataDelimiter.empty() ? std::string(" ") : runState().dataDelimiter;
-
-  // About three fifths of the channel count: enough lines for two records of any usual layout.
-  int count = sampleHint > 0 ? sampleHint : curveLineCount(fileName);
-  std::size_t sampleSize = static_cast<std::size_t>(std::floor(count / 5.0 * 3.0));
-
-  std::vector<SampledLine> lines;
-  file.seek(start);
-  std::string_view line;
-  while (lines.size() <= sampleSize && file.readLine(line)) {
-    if (trimView(line).empty()) continue;
-    lines.push_back({countWords(line, delimiter), static_cast<int>(trimRightView(line).size())});
-    if (serviceWindow()) return WRAP_CANCELLED;
-  }
-  if (lines.empty()) return WRAP_UNDETERMINED;
-
-  bool uniform = true;
-  for (const SampledLine& l : lines) uniform = uniform && l.fields == lines[0].fields;
-  if (uniform) {
-    linesPerRecord = 1;
-    bufferLength = lines[0].length + 2;
-    channels = lines[0].fields;
-    return WRAP_UNWRAPPED;
-  }
-
-  // A record of k lines repeats when the field counts of lines 1..k match those of k+1..2k and
-  // its first line starts with a single field (the index alone); the test on the pattern's first
-  // character is deliberately loose.
-  std::size_t lastK = lines.size() / 2 + 1;
-  for (std::size_t k = 1; k <= lastK; ++k) {
-    std::string a = countPattern(lines, 0, k);
-    if (a.empty() || a[0] != '1' || a != countPattern(lines, k, k)) continue;
-    linesPerRecord = static_cast<int>(k);
-    for (std::size_t i = 0; i < k && i < lines.size(); ++i) {
-      bufferLength += lines[i].length + 2;
-      channels += lines[i].fields;
-    }
-    return WRAP_WRAPPED;
-  }
-  return WRAP_UNDETERMINED;
-}
-
-namespace {
 
 // Reads the header (everything up to and including the data title line) and gives it back with
 // the WRAP value of the ~Version section set to NO. `dataStart` receives the position of the first
@@ -219,7 +126,9 @@ void writeUnwrapped(const std::string& source, int linesPerRecord, FileSink& out
 
 bool unwrapFile(const std::string& source, const std::string& destination) {
   if (fileLength(source) < 0) return false;
-  locateStandardSections(source);  // the wrap analysis reads the section index of this file
+  locateStandardSections(
+      source, runState().dialect,
+      runState().sections);  // the wrap analysis reads the section index of this file
   int linesPerRecord = 0;
   int bufferLength = 0;
   int channels = 0;

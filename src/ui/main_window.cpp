@@ -490,11 +490,11 @@ void CertifyWindow::printResult() {
 }
 
 void CertifyWindow::updateJustCertifiedCaption() {
-  justCertified_->setText(fromStd(justCertifiedCaption(runState().lasVersion)));
+  justCertified_->setText(fromStd(justCertifiedCaption(runState().dialect.version)));
 }
 
 void CertifyWindow::viewStandardsDocument(int item) {
-  const std::string document = standardsDocument(item, runState().lasVersion);
+  const std::string document = standardsDocument(item, runState().dialect.version);
   const QString path = programFile(fromStd(document));
   if (!QFileInfo::exists(path)) {
     message(QMessageBox::Information, QStringLiteral("File Not Found"),

@@ -116,7 +116,7 @@ TEST(Certify2Driver, RunsRecordsAndStopsByTheRules) {
     };
     runState().window = &window;
     runState().batchMode = row.batch;
-    runState().lasVersion = 2.0f;
+    runState().dialect.version = 2.0f;
     EXPECT_EQ(runScript(sandbox, row.dataSections), row.outcome);
     const std::string question =
         "Please Confirm!|Do you want to cancel the certification in progress?";

@@ -117,9 +117,9 @@ TEST(ScanLineBytes, AgreesWithTheWordCount) {
 // line length finding (group 7's slot 4) last.
 std::string dataGroups(const std::string& path, const std::string& wrap, bool keep) {
   resetRunState();
-  runState().lasVersion = 2.0f;
+  runState().dialect.version = 2.0f;
   runState().doWrap = true;
-  locateStandardSections(path);
+  locateStandardSections(path, runState().dialect, runState().sections);
   ParamTable well = testing::sectionTable(path, "Well");
   ParamTable curve = testing::sectionTable(path, "Curve");
   Slots slots4, slots6, slots7;
@@ -175,7 +175,7 @@ TEST(DataScan, AChangedFileIsReadAgain) {
   Slots slots;
   lineSyntax(parts, slots);
   const std::string path = testing::scratchFolder() + "/data_checks.las";
-  std::int64_t start = runState().sectionIndex.back().start;
+  std::int64_t start = runState().sections.entries.back().start;
   ASSERT_NE(keptScan(path, start), nullptr);
   testing::writeScratchFile("data_checks.las", testing::lasBytes(parts) + "1001.0\r\n");
   EXPECT_EQ(keptScan(path, start), nullptr);

@@ -29,10 +29,10 @@ TEST(VersionChecks, FindingsPerRow) {
   for (const auto& [lines, expected] : rows) {
     SCOPED_TRACE(lines[0].second);
     resetRunState();
-    runState().lasVersion = 2.0f;
-    runState().sectionIndex.assign(2, SectionEntry{});
-    runState().sectionIndex[0].name = "Version";
-    runState().sectionIndex[1].name = "Well";
+    runState().dialect.version = 2.0f;
+    runState().sections.entries.assign(2, SectionEntry{});
+    runState().sections.entries[0].name = "Version";
+    runState().sections.entries[1].name = "Well";
     ParamTable table;
     for (const auto& [mnemonic, value] : lines) {
       table.entries.push_back({mnemonic, "", value, "", "", ""});
@@ -45,7 +45,7 @@ TEST(VersionChecks, FindingsPerRow) {
     outcome += "\n" + testing::filledSlots(slots, 15);
     EXPECT_EQ(outcome, expected);
     EXPECT_EQ(result, expected.find(':') == std::string::npos ? CHECK_PASSED : CHECK_FAILED);
-    EXPECT_EQ(runState().lasVersion, 2.0f);
+    EXPECT_EQ(runState().dialect.version, 2.0f);
   }
 }
 

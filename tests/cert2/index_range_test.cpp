@@ -176,7 +176,7 @@ TEST(CheckIndexRange, RepairsANullStopInTheFileOrSaysWhyNot) {
               replaceAll(row.message, "<las>", path));
     if (row.changed) {
       // The index was rebuilt: the data section starts where the rewritten file has it.
-      EXPECT_EQ(runState().sectionIndex.back().start,
+      EXPECT_EQ(runState().sections.entries.back().start,
                 static_cast<std::int64_t>(repaired.find("~A\r\n") + 4 + 1));
     }
     ::chmod(path.c_str(), 0644);

@@ -47,14 +47,14 @@ inline std::vector<std::string> curveLines(int count) {
 inline std::string prepareLas(const std::string& name, const std::string& bytes) {
   std::string path = writeScratchFile(name, bytes);
   resetRunState();
-  runState().lasVersion = 2.0f;
-  locateStandardSections(path);
+  runState().dialect.version = 2.0f;
+  locateStandardSections(path, runState().dialect, runState().sections);
   return path;
 }
 
 inline ParamTable sectionTable(const std::string& path, const std::string& name) {
   ParamTable table;
-  parseSectionTable(path, table, name);
+  parseSectionTable(path, runState().dialect, runState().sections, table, name);
   return table;
 }
 

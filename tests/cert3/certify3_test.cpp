@@ -19,7 +19,7 @@ const std::string EXAMPLE = std::string(ZORVIK_EXAMPLES) + "/example_30.las";
 // One driver run: a sandboxed program folder and settings store, and a recording window.
 struct DriverRun {
   DriverRun() {
-    runState().lasVersion = 3.0f;
+    runState().dialect.version = 3.0f;
     runState().window = &window;
     layOutCatalogue();
   }

@@ -32,9 +32,9 @@ std::string lasText(const std::vector<std::string>& data) {
 // Runs `check` as the driver does, every slot preset to " ".
 Slots runOn(const std::string& path, const Check& check, int& result) {
   resetRunState();
-  runState().lasVersion = 3.0f;
-  runState().dataDelimiter = ",";
-  locateStandardSections(path);
+  runState().dialect.version = 3.0f;
+  runState().dialect.delimiter = ",";
+  locateStandardSections(path, runState().dialect, runState().sections);
   Slots slots;
   slots.fill(" ");
   result = check(path, slots);

@@ -55,8 +55,8 @@ TEST(DataItems, SplitsLinesIntoItems) {
 // Every item against every format: the quick scan may only ever agree with the full test.
 TEST(ItemFormat, AgreesWithTheFullValueTest) {
   resetRunState();
-  runState().lasVersion = 3.0f;
-  runState().dataDelimiter = ",";
+  runState().dialect.version = 3.0f;
+  runState().dialect.delimiter = ",";
   const char* formats[] = {"",     "F",   "F10.4", "F4.2",      "F4.1",       "F6.2", "F10",
                            "F10.", "F.4", "f",     "I",         "I3",         "I0",   "I3.0",
                            "S",    "S3",  "E",     "E0.00E+00", "DD/MM/YYYY", "Q",    "s"};
@@ -68,7 +68,8 @@ TEST(ItemFormat, AgreesWithTheFullValueTest) {
     EXPECT_EQ(parsed.text, format);
     for (const char* item : items) {
       SCOPED_TRACE(std::string("item [") + item + "] format [" + format + "]");
-      EXPECT_EQ(itemFitsFormat(item, parsed), valueMatchesFormat(item, format) == -1);
+      EXPECT_EQ(itemFitsFormat(item, parsed),
+                valueMatchesFormat(item, format, runState().dialect.delimiter) == -1);
     }
   }
 }

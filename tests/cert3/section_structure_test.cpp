@@ -25,8 +25,8 @@ int runStructure(const std::vector<std::string>& titles, Slots& slots) {
   testing::ScratchDir dir;
   const std::string path = dir.write("titles.las", text);
   resetRunState();
-  runState().lasVersion = 3.0f;
-  locateStandardSections(path);
+  runState().dialect.version = 3.0f;
+  locateStandardSections(path, runState().dialect, runState().sections);
   return checkSectionStructure(path, slots);
 }
 

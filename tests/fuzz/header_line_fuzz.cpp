@@ -18,8 +18,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   zorvik::fieldDescription(line);
   zorvik::fieldFormat(line);
   std::vector<std::string> parts;
-  zorvik::fieldAssociation(line, parts);
-  zorvik::isValidMnemonic(mnemonic);
+  zorvik::fieldAssociation(line, " ", parts);
+  for (float version : {2.0f, 3.0f})
+    zorvik::isValidMnemonic(mnemonic, zorvik::Dialect{version, " "});
   for (const char* separator : {" ", ",", "\t"}) zorvik::countWords(value, separator);
   zorvik::mnemonicListHas(value, mnemonic);
   return 0;

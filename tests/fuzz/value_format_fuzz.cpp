@@ -2,7 +2,6 @@
 // element test and the value test against the format must answer for any bytes.
 #include <string_view>
 
-#include "checks/run_state.h"
 #include "fuzz/fuzz_target.h"
 #include "las/value_format.h"
 
@@ -12,10 +11,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view format = input.substr(0, newline);
   const std::string_view value =
       newline == std::string_view::npos ? std::string_view() : input.substr(newline + 1);
-  zorvik::runState().dataDelimiter = size % 2 == 0 ? "," : " ";
+  const std::string_view delimiter = size % 2 == 0 ? "," : " ";
   zorvik::isLegalFormat(format);
   zorvik::isLegalFormatElement(format);
-  zorvik::valueMatchesFormat(value, format);
+  zorvik::valueMatchesFormat(value, format, delimiter);
   const std::string_view spec = format.empty() ? format : format.substr(1);
   zorvik::isFloatValue(value, spec);
   zorvik::isIntegerValue(value, spec);

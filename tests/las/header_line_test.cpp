@@ -64,8 +64,8 @@ TEST_F(HeaderLine, MnemonicValidityDependsOnVersion) {
   };
   for (const auto& [version, text, valid] : rows) {
     SCOPED_TRACE(std::string(text) + " in " + std::to_string(version));
-    runState().lasVersion = version;
-    EXPECT_EQ(isValidMnemonic(text), valid);
+    runState().dialect.version = version;
+    EXPECT_EQ(isValidMnemonic(text, runState().dialect), valid);
   }
 }
 
@@ -82,7 +82,7 @@ TEST_F(HeaderLine, CountsWordsAndListEntries) {
 }
 
 TEST_F(HeaderLine, ParameterTableOfASection) {
-  runState().lasVersion = 2.0f;
+  runState().dialect.version = 2.0f;
   using Entries = std::vector<std::array<std::string, 6>>;
   // "RUN.  1" has no colon of its own but the section's last colon lies further right; with a
   // tab delimiter the tab stays, and the line is no longer well formed.
@@ -93,17 +93,18 @@ TEST_F(HeaderLine, ParameterTableOfASection) {
   tabs[1] = {"MUD", "\tGEL", "", "MUD TYPE", "", ""};
   for (const char* delimiter : {" ", "\t"}) {
     SCOPED_TRACE(std::string("delimiter [") + delimiter + "]");
-    runState().dataDelimiter = delimiter;
+    runState().dialect.delimiter = delimiter;
     ParamTable table;
     table.entries.push_back({"stale"});
-    ASSERT_EQ(parseSectionTable(kV20, table, "Parameter"), -1);
+    ASSERT_EQ(parseSectionTable(kV20, runState().dialect, runState().sections, table, "Parameter"),
+              -1);
     EXPECT_EQ(table.validMnemonics(), "RUN MUD BHT ");
     EXPECT_EQ(Entries(table.entries.begin() + 1, table.entries.end()),
               *delimiter == ' ' ? blanks : tabs);
   }
 
   ParamTable table;
-  ASSERT_EQ(parseSectionTable(kV20, table, "Well"), -1);
+  ASSERT_EQ(parseSectionTable(kV20, runState().dialect, runState().sections, table, "Well"), -1);
   EXPECT_EQ(mnemonicValue(table, "null"), "-999.25");
   EXPECT_EQ(mnemonicValue(table, "COMM"), " ");  // commented out
 }

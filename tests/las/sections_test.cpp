@@ -80,10 +80,10 @@ TEST_F(Sections, IndexOfTitles) {
   };
   for (const auto& [version, titles, expected] : rows) {
     SCOPED_TRACE(titles);
-    runState().lasVersion = version;
-    ASSERT_TRUE(buildSectionIndex(writeTitles(titles)));
+    runState().dialect.version = version;
+    ASSERT_TRUE(buildSectionIndex(writeTitles(titles), runState().dialect, runState().sections));
     std::string index;
-    for (const SectionEntry& e : runState().sectionIndex) {
+    for (const SectionEntry& e : runState().sections.entries) {
       index += (index.empty() ? "" : " ") + e.name + ":" + std::string_view("HDCPO").at(e.role);
       if (!e.association.empty()) index += "|" + e.association;
     }
@@ -92,19 +92,19 @@ TEST_F(Sections, IndexOfTitles) {
 }
 
 TEST_F(Sections, Version3Groups) {
-  runState().lasVersion = 3.0f;
-  ASSERT_TRUE(buildSectionIndex(kV30));
-  ASSERT_EQ(runState().sectionIndex.size(), 10u);
+  runState().dialect.version = 3.0f;
+  ASSERT_TRUE(buildSectionIndex(kV30, runState().dialect, runState().sections));
+  ASSERT_EQ(runState().sections.entries.size(), 10u);
   // Section numbers (1-based) of data, definition and parameter; the later Log_Data[2] wins.
   using Group = std::tuple<std::string, int, int, int>;
   std::vector<Group> groups;
-  for (const SectionGroup& g : runState().sectionGroups)
+  for (const SectionGroup& g : runState().sections.groups)
     groups.emplace_back(g.prefix, g.data, g.definition, g.parameter);
   EXPECT_EQ(groups, (std::vector<Group>{{"Tops", 5, 4, 3}, {"Log", 9, 7, 6}}));
 }
 
 TEST_F(Sections, LookupsUseTheFirstSectionOfAName) {
-  runState().lasVersion = 3.0f;
+  runState().dialect.version = 3.0f;
   const std::string bytes = testing::readBytes(kV30);
   const std::string missing = testing::scratchFolder() + "/missing.las";
   const std::tuple<const char*, const char*, std::int64_t, const char*> rows[] = {
@@ -113,27 +113,29 @@ TEST_F(Sections, LookupsUseTheFirstSectionOfAName) {
   for (const auto& [name, foundName, start, text] : rows) {
     SCOPED_TRACE(name);
     std::string found = "stale";
-    EXPECT_EQ(findSection(kV30, name, found), start);  // builds the index lazily
+    EXPECT_EQ(findSection(kV30, runState().dialect, runState().sections, name, found),
+              start);  // builds the index lazily
     EXPECT_EQ(found, foundName);
-    EXPECT_EQ(sectionText(kV30, name), text);
+    EXPECT_EQ(sectionText(kV30, runState().dialect, runState().sections, name), text);
   }
   // A built index is used as it stands, whatever file is named.
   std::string found;
-  EXPECT_EQ(findSection(missing, "Well", found), startAfter(bytes, "~Well"));
+  EXPECT_EQ(findSection(missing, runState().dialect, runState().sections, "Well", found),
+            startAfter(bytes, "~Well"));
   resetRunState();
-  EXPECT_EQ(findSection(missing, "Well", found), 0);
-  EXPECT_EQ(sectionText(missing, "Well"), "");
+  EXPECT_EQ(findSection(missing, runState().dialect, runState().sections, "Well", found), 0);
+  EXPECT_EQ(sectionText(missing, runState().dialect, runState().sections, "Well"), "");
 }
 
 TEST_F(Sections, SectionTextOfAVersion2File) {
-  runState().lasVersion = 2.0f;
-  EXPECT_EQ(sectionText(kV20, "Parameter"),
+  runState().dialect.version = 2.0f;
+  EXPECT_EQ(sectionText(kV20, runState().dialect, runState().sections, "Parameter"),
             "RUN.  1\r\nMUD .\tGEL : MUD TYPE\r\n\r\nBHT .DEGC   35.5 : BOTTOM HOLE TEMPERATURE\r");
   // The last section reads to the end of the file, but an empty one has no text.
-  EXPECT_EQ(sectionText(kV20, "A"),
+  EXPECT_EQ(sectionText(kV20, runState().dialect, runState().sections, "A"),
             "1670.000  45.0  0.27\r\n1669.875  46.0  0.28\r\n1669.750  47.0  0.29\r\n");
   resetRunState();
-  EXPECT_EQ(sectionText(writeTitles("~V;~A"), "A"), "");
+  EXPECT_EQ(sectionText(writeTitles("~V;~A"), runState().dialect, runState().sections, "A"), "");
 }
 
 // Before 3.0 only data and curve sections make the standard sections found; 3.0 falls back on
@@ -148,16 +150,18 @@ TEST_F(Sections, StandardSectionNames) {
   for (const auto& [version, titles, curve, data, param, found] : rows) {
     SCOPED_TRACE(titles);
     resetRunState();
-    runState().lasVersion = version;
-    EXPECT_TRUE(locateStandardSections(writeTitles(titles)));
-    EXPECT_EQ(std::tie(runState().curveSectionName, runState().dataSectionName,
-                       runState().paramSectionName, runState().standardSectionsFound),
+    runState().dialect.version = version;
+    EXPECT_TRUE(
+        locateStandardSections(writeTitles(titles), runState().dialect, runState().sections));
+    EXPECT_EQ(std::tie(runState().sections.curveName, runState().sections.dataName,
+                       runState().sections.paramName, runState().sections.standardFound),
               std::make_tuple(std::string(curve), std::string(data), std::string(param), found));
   }
-  runState().dataSectionName = "stale";
-  EXPECT_TRUE(locateStandardSections(testing::scratchFolder() + "/missing.las"));
-  EXPECT_EQ(runState().dataSectionName, "");
-  EXPECT_FALSE(runState().standardSectionsFound);
+  runState().sections.dataName = "stale";
+  EXPECT_TRUE(locateStandardSections(testing::scratchFolder() + "/missing.las", runState().dialect,
+                                     runState().sections));
+  EXPECT_EQ(runState().sections.dataName, "");
+  EXPECT_FALSE(runState().sections.standardFound);
 }
 
 }  // namespace

@@ -16,12 +16,14 @@ class V3Line : public ::testing::Test {
  protected:
   void SetUp() override {
     resetRunState();
-    runState().lasVersion = 3.0f;
-    runState().dataSectionName = "ASCII";
+    runState().dialect.version = 3.0f;
+    runState().sections.dataName = "ASCII";
     // Roles by name: a header, a parameter, a definition, two data sections and one of no kind.
-    buildSectionIndex(testing::writeScratchFile(
-        "v3_line.las", testing::crlfLines({"~Well", "~Parameter", "~Log_Definition", "~Log_Data[1]",
-                                           "~Tops", "~ASCII"})));
+    buildSectionIndex(
+        testing::writeScratchFile("v3_line.las",
+                                  testing::crlfLines({"~Well", "~Parameter", "~Log_Definition",
+                                                      "~Log_Data[1]", "~Tops", "~ASCII"})),
+        runState().dialect, runState().sections);
   }
   void TearDown() override { resetRunState(); }
 };
@@ -68,13 +70,13 @@ TEST_F(V3Line, TypesLinesAndFillsSlots) {
       {"Tops", "  # note", V3_COMMENT, {}},
       {"", "junk", V3_BAD, {{SLOT_LINE_TYPE, "junk"}}},
   };
-  runState().dataDelimiter = ",";
+  runState().dialect.delimiter = ",";
   for (const auto& [section, line, type, expected] : rows) {
     SCOPED_TRACE(std::string(section) + ": [" + line + "]");
     std::string current = section;
     V3LineDiagnostics slots;
     slots.fill("stale");
-    EXPECT_EQ(parseV3Line(line, current, slots), type);
+    EXPECT_EQ(parseV3Line(line, current, runState().dialect, runState().sections, slots), type);
     EXPECT_EQ(current, section);
     for (int i = 0; i < static_cast<int>(slots.size()); ++i) {
       auto it = expected.find(i);
@@ -87,11 +89,11 @@ TEST_F(V3Line, TypesLinesAndFillsSlots) {
 TEST_F(V3Line, FieldCharacterTestsDependOnVersion) {
   for (float version : {3.0f, 2.0f}) {
     SCOPED_TRACE(version);
-    runState().lasVersion = version;
+    runState().dialect.version = version;
     const bool older = version < 3.0f;
-    EXPECT_EQ(isLegalUnitText("A{B"), older);
-    EXPECT_EQ(isLegalValueText("a|b"), older);
-    EXPECT_EQ(isLegalDescriptionText("x;y"), older);
+    EXPECT_EQ(isLegalUnitText("A{B", runState().dialect), older);
+    EXPECT_EQ(isLegalValueText("a|b", runState().dialect), older);
+    EXPECT_EQ(isLegalDescriptionText("x;y", runState().dialect), older);
     EXPECT_FALSE(isLegalAssociationText("A;B"));
   }
 }

@@ -31,7 +31,7 @@ TEST_F(ValueFormat, ValueAgainstFormat) {
   };
   for (const auto& [value, format, expected] : rows) {
     SCOPED_TRACE(std::string("[") + value + "] as [" + format + "]");
-    EXPECT_EQ(valueMatchesFormat(value, format), expected);
+    EXPECT_EQ(valueMatchesFormat(value, format, runState().dialect.delimiter), expected);
   }
   // Padding counts toward the width.
   EXPECT_TRUE(isFloatValue("  12.5", "6.1"));
@@ -48,8 +48,8 @@ TEST_F(ValueFormat, ArrayValuesSplitOnTheDataDelimiter) {
   };
   for (const auto& [delimiter, value, format, expected] : rows) {
     SCOPED_TRACE(std::string("[") + value + "] as [" + format + "]");
-    runState().dataDelimiter = delimiter;
-    EXPECT_EQ(valueMatchesFormat(value, format), expected);
+    runState().dialect.delimiter = delimiter;
+    EXPECT_EQ(valueMatchesFormat(value, format, runState().dialect.delimiter), expected);
   }
 }
 

@@ -84,7 +84,7 @@ TEST(CertifyWork, VersionQuestionsAndCancelsDecideTheCalls) {
     if (!row.calls.ends_with("status Ready\n"))
       calls.resize(std::min(calls.size(), row.calls.size()));
     EXPECT_EQ(calls, row.calls);
-    EXPECT_EQ(runState().lasVersion, row.version);
+    EXPECT_EQ(runState().dialect.version, row.version);
     EXPECT_EQ(window.captions.empty() ? "" : window.captions.back(), row.caption);
     // A 3.0 file is certified by the 3.0 checks, and only a 3.0 file is.
     EXPECT_EQ(std::count(window.calls.begin(), window.calls.end(), "grid 3.0"),

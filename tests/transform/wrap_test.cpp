@@ -55,8 +55,8 @@ TEST(AnalyseWrap, FindsTheLinesOfOneRecord) {
     SCOPED_TRACE(row.data + " hint " + std::to_string(row.hint));
     std::string path = writeScratchFile("analyse_wrap.las", lasWith(true, row.curves, row.data));
     resetRunState();
-    runState().lasVersion = 2.0f;
-    locateStandardSections(path);
+    runState().dialect.version = 2.0f;
+    locateStandardSections(path, runState().dialect, runState().sections);
     testing::FakeWindow window;
     if (row.code == WRAP_CANCELLED) {
       window.onEvents = [](const std::string&) { runState().escapePressed = true; };

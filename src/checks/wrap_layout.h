@@ -1,0 +1,22 @@
+// Wrapped data (WRAP YES): how many physical lines make one record, judged from a sample of the
+// first data lines. The checks of both versions compare it with the declared WRAP; unwrapping
+// uses it to join the records.
+#pragma once
+
+#include <string>
+
+namespace zorvik {
+
+inline constexpr int WRAP_UNWRAPPED = 1;
+inline constexpr int WRAP_WRAPPED = 2;
+inline constexpr int WRAP_UNDETERMINED = 3;
+inline constexpr int WRAP_CANCELLED = 4;
+
+// Samples the first data lines of the file. `sampleHint` is the channel count to size the sample
+// (0: count the ~Curve lines). Gives back the lines per record, the record buffer length and the
+// channels per record (the first line's for unwrapped data). Never fails: unreadable data is
+// WRAP_UNDETERMINED with outputs 0.
+int analyseWrap(const std::string& fileName, int& linesPerRecord, int& bufferLength, int& channels,
+                int sampleHint);
+
+}  // namespace zorvik
