@@ -5,8 +5,8 @@
 
 #include "base/text.h"
 #include "las/header_line.h"
+#include "las/param_writer.h"
 #include "transform/line_source.h"
-#include "transform/param_writer.h"
 #include "transform/temp_files.h"
 #include "transform/wrap.h"
 

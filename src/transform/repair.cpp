@@ -9,8 +9,8 @@
 #include "base/text.h"
 #include "checks/data_scan.h"
 #include "las/header_line.h"
+#include "las/param_writer.h"
 #include "transform/line_source.h"
-#include "transform/param_writer.h"
 
 namespace zorvik {
 

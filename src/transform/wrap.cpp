@@ -13,8 +13,8 @@
 #include "checks/window_ops.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
+#include "las/param_writer.h"
 #include "las/sections.h"
-#include "transform/param_writer.h"
 
 namespace zorvik {
 

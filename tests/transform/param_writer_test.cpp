@@ -1,6 +1,6 @@
 // Rewriting one header value on disk: the line's layout, every other byte, and the temporary
 // file that keeps a failed write from touching the original.
-#include "transform/param_writer.h"
+#include "las/param_writer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "transform/param_writer.h"
+#include "las/param_writer.h"
 
 #include <algorithm>
 #include <cerrno>
