@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Installs what is missing, checks the formatting, builds, and runs every test twice: in a normal
-# build (with the window, whose tests run on Qt's offscreen platform) and in an AddressSanitizer +
-# UndefinedBehaviorSanitizer build of the core. Safe to run again: both builds are incremental.
+# Installs what is missing, checks the formatting and the include direction between the folders of
+# src, builds, and runs every test twice: in a normal build (with the window, whose tests run on
+# Qt's offscreen platform) and in an AddressSanitizer + UndefinedBehaviorSanitizer build of the
+# core. Safe to run again: both builds are incremental.
 set -euo pipefail
 cd "$(dirname "$0")"
 gui=${ZORVIK_GUI:-ON}
@@ -11,6 +12,9 @@ if command -v clang-format >/dev/null; then
   echo "== format"
   find src tests \( -name '*.cpp' -o -name '*.h' \) -print0 | xargs -0 clang-format --dry-run --Werror
 fi
+
+echo "== layers"
+python3 tools/check_layers.py
 
 jobs=$(nproc)
 # A compiler cache, when the machine has one, makes rebuilding the two configurations cheap.
