@@ -60,10 +60,6 @@ Fault makeFault(int number) {
   return Fault{number, faultDescription(number)};
 }
 
-void raiseFault(int number) {
-  throw FaultError(makeFault(number));
-}
-
 Fault faultFromErrno(int err) {
   switch (err) {
     case ENOENT:

@@ -1,7 +1,7 @@
 // Faults: the rare, unexpected failures that end a procedure and reach a driver's handler.
 //
 // Findings about a LAS file are never faults (checks return them as result texts). A fault carries
-// a number and a description in the classic numbering the command log shows, e.g.
+// a number and a description, numbered as the command log shows them, e.g.
 // "Error: VB Error in main: Subscript out of range. Error #9".
 #pragma once
 
@@ -37,7 +37,6 @@ class FaultError : public std::runtime_error {
 // for numbers without one of their own).
 std::string faultDescription(int number);
 Fault makeFault(int number);
-[[noreturn]] void raiseFault(int number);
 // Maps an errno value onto the fault numbering (ENOENT 53, EACCES/EPERM 70, EISDIR 75,
 // ENOTDIR 76, EIO 57; others 75).
 Fault faultFromErrno(int err);

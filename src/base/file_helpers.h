@@ -1,6 +1,6 @@
 // File-name helpers shared by start-up, the run drivers and the file-level checks.
 //
-// Attributes follow the classic desktop model mapped onto this platform: a name whose last
+// Attributes are the desktop ones mapped onto this platform: a name whose last
 // component begins with "." is hidden; a file nobody may write is read-only; every regular file
 // carries the archive attribute; directories carry the directory attribute and other non-regular
 // files (pipes, devices, sockets) the system attribute. None of these functions throws.

@@ -77,12 +77,6 @@ std::size_t findPos(std::string_view s, std::string_view what, std::size_t from)
   return p == std::string_view::npos ? 0 : p + 1;
 }
 
-std::size_t findLastPos(std::string_view s, std::string_view what) {
-  if (what.empty()) return 0;
-  std::size_t p = s.rfind(what);
-  return p == std::string_view::npos ? 0 : p + 1;
-}
-
 std::size_t firstPos(std::string_view s, char c) {
   std::size_t p = s.find(c);
   return p == std::string_view::npos ? 0 : p + 1;
@@ -166,7 +160,7 @@ bool isDigit(char c) {
 }
 
 // Length of the longest numeric prefix of `s` (sign, digits, one point, optional exponent), or 0
-// when no digit is present. Mirrors what a classic numeric conversion accepts.
+// when no digit is present.
 std::size_t numericPrefix(std::string_view s) {
   std::size_t i = 0;
   if (i < s.size() && (s[i] == '+' || s[i] == '-')) ++i;

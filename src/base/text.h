@@ -32,7 +32,6 @@ bool icontains(std::string_view s, std::string_view what);
 
 // Exact (case-sensitive) searches, 1-based; 0 when not found.
 std::size_t findPos(std::string_view s, std::string_view what, std::size_t from = 1);
-std::size_t findLastPos(std::string_view s, std::string_view what);
 // 1-based position of the first / last occurrence of a character; 0 when absent.
 std::size_t firstPos(std::string_view s, char c);
 std::size_t lastPos(std::string_view s, char c);
@@ -53,7 +52,7 @@ std::vector<std::string> splitOnBlanks(std::string_view s);
 
 std::string replaceAll(std::string_view s, std::string_view what, std::string_view with);
 
-// The leading number of a text, as a classic `Val` reads it: leading blanks skipped, then an
+// The leading number of a text: leading blanks skipped, then an
 // optional sign, digits, one point and an optional exponent; anything else ends it; no number is 0.
 double leadingNumber(std::string_view s);
 

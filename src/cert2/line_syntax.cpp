@@ -9,6 +9,7 @@
 #include "checks/run_state.h"
 #include "checks/wrap_layout.h"
 #include "las/line_reader.h"
+#include "las/lines.h"
 #include "las/v3_line.h"
 
 namespace zorvik {
@@ -26,11 +27,6 @@ void addFinding(std::string& slot, std::string_view words, std::string_view line
   slot += words;
   slot += "\r\n";
   slot += line;
-}
-
-bool isTitle(std::string_view line) {
-  std::string_view t = trimLeftView(line);
-  return !t.empty() && t[0] == '~';
 }
 
 bool hasTab(std::string_view line) {
@@ -113,7 +109,7 @@ void judgeHeaderLine(std::string_view line, bool tabDelimited, Slots& slots) {
 void judgeHeaderLines(LineReader& file, bool tabDelimited, Slots& slots) {
   std::string_view line;
   while (file.readLine(line)) {
-    if (isTitle(line)) break;
+    if (isTitleLine(line)) break;
     judgeHeaderLine(line, tabDelimited, slots);
   }
 }

@@ -9,6 +9,7 @@
 #include "cert3/section_lines.h"
 #include "checks/run_state.h"
 #include "las/line_reader.h"
+#include "las/lines.h"
 #include "las/sections.h"
 #include "las/v3_line.h"
 
@@ -51,7 +52,7 @@ class LineStructureCheck {
     std::string_view line;
     while (reader.readLine(line)) {
       std::string_view t = trimView(line);
-      if (!t.empty() && t.front() == '~') {
+      if (isTitleLine(t)) {
         finishDataSection();
         std::string association;
         section = parseTitleLine(t, association);

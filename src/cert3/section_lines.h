@@ -7,6 +7,7 @@
 
 #include "base/text.h"
 #include "las/line_reader.h"
+#include "las/lines.h"
 
 namespace zorvik {
 
@@ -25,12 +26,6 @@ inline bool readSectionLine(LineReader& reader, std::string_view& line) {
 // True when the line last read was the last line of the file.
 inline bool wasLastLine(const LineReader& reader) {
   return reader.position() > reader.length();
-}
-
-// A line whose trimmed text is empty or begins with "#".
-inline bool isBlankOrComment(std::string_view line) {
-  std::string_view t = trimView(line);
-  return t.empty() || t.front() == '#';
 }
 
 }  // namespace zorvik

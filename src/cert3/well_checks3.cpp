@@ -5,12 +5,11 @@
 
 #include "base/text.h"
 #include "checks/run_state.h"
+#include "las/lines.h"
 #include "las/sections.h"
 
 namespace zorvik {
 namespace {
-
-constexpr std::string_view CRLF = "\r\n";
 
 constexpr std::string_view REQUIRED[] = {"STRT", "STOP", "STEP", "NULL", "COMP",
                                          "WELL", "FLD",  "LOC",  "DATE", "SRVC"};

@@ -33,11 +33,6 @@ char dataDelimiterChar() {
   return d.empty() ? ' ' : d[0];
 }
 
-bool isBlankOrComment(std::string_view line) {
-  std::string_view t = trimLeftView(line);
-  return t.empty() || t[0] == '#';
-}
-
 std::string_view leadingField(std::string_view line, char delimiter) {
   std::string_view t = trimView(line);
   std::size_t p = t.find(delimiter);

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "las/lines.h"
+
 namespace zorvik {
 
 // 1-based position of the first line after the run's data section title (dataSectionName, or the
@@ -19,9 +21,6 @@ bool noDataAt(std::int64_t pos, std::int64_t fileLength);
 
 // The data delimiter of the run as one character (a space when none is set).
 char dataDelimiterChar();
-
-// Trimmed text empty, or beginning with "#".
-bool isBlankOrComment(std::string_view line);
 
 // The text before the first `delimiter` of the trimmed line, trimmed (the whole trimmed line when
 // it has no delimiter).

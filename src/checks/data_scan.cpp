@@ -9,6 +9,7 @@
 #include "checks/data_lines.h"
 #include "checks/run_state.h"
 #include "las/line_reader.h"
+#include "las/lines.h"
 
 namespace zorvik {
 
@@ -65,7 +66,7 @@ IncrementWalk::IncrementWalk(int linesPerRecord, char delimiter)
 bool IncrementWalk::feed(std::string_view line) {
   if (answer_ != 0) return false;
   std::string_view t = trimLeftView(line);
-  if (!t.empty() && t[0] == '~') {
+  if (isTitleLine(t)) {
     answer_ = records_ < 2 ? STEP_NO_INCREMENT : STEP_CONSTANT;
     return false;
   }

@@ -4,6 +4,7 @@
 #include "checks/run_state.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
+#include "las/lines.h"
 #include "las/sections.h"
 
 namespace zorvik {
@@ -50,7 +51,7 @@ std::string lookupFileValue(const std::string& fileName, std::string_view mnemon
   std::string_view line;
   while (file.readLine(line)) {
     std::string_view t = trimLeftView(line);
-    if (!t.empty() && t[0] == '~' && opensData(trimView(t))) {
+    if (isTitleLine(t) && opensData(trimView(t))) {
       if (notFound) *notFound = true;
       return " ";
     }

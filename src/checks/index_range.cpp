@@ -11,6 +11,7 @@
 #include "checks/window_ops.h"
 #include "checks/wrap_layout.h"
 #include "las/line_reader.h"
+#include "las/lines.h"
 #include "las/param_writer.h"
 #include "las/sections.h"
 
@@ -20,10 +21,6 @@ namespace {
 
 // How far back from the end of the data the last index is looked for.
 constexpr std::int64_t TAIL_BYTES = 100000;
-
-bool isTitle(std::string_view trimmedLeft) {
-  return !trimmedLeft.empty() && trimmedLeft[0] == '~';
-}
 
 // Where the data section that starts at `start` ends: the start of the next section's title
 // (approximately: the line after it, which the tail search stops at anyway), or past the end.
@@ -146,7 +143,7 @@ int readIndexEnds(const std::string& fileName, const std::string& wrapValue, Ind
   std::string last;
   while (file.readLine(line)) {
     std::string_view t = trimView(line);
-    if (isTitle(t)) break;
+    if (isTitleLine(t)) break;
     if (t.empty() || t[0] == '#') continue;
     if (!wrapped) {
       last.assign(leadingField(t, delimiter));

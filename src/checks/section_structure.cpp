@@ -10,12 +10,11 @@
 #include "base/text.h"
 #include "checks/run_state.h"
 #include "checks/title_lines.h"
+#include "las/lines.h"
 #include "las/sections.h"
 
 namespace zorvik {
 namespace {
-
-constexpr std::string_view CRLF = "\r\n";
 
 // What the items need of one title: the text as written (without the tilde), its section name
 // (the title without its [n] index), its index, its association and its role.

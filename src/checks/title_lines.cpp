@@ -6,11 +6,11 @@
 #include "base/text.h"
 #include "checks/check_table.h"
 #include "las/line_reader.h"
+#include "las/lines.h"
 
 namespace zorvik {
 namespace {
 
-constexpr std::string_view CRLF = "\r\n";
 constexpr std::string_view NOT_FIRST = "Tilde not first non-space character of the line";
 constexpr std::string_view MISSING_TITLE = "Missing section title";
 

@@ -9,6 +9,7 @@
 #include "base/text.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
+#include "las/lines.h"
 #include "las/sections.h"
 
 namespace zorvik {
@@ -85,7 +86,7 @@ bool findParameterLine(const std::string& fileName, std::string_view sectionName
   std::string association;
   while (file.readLine(text)) {
     std::string_view t = trimView(text);
-    if (!t.empty() && t[0] == '~') {
+    if (isTitleLine(t)) {
       if (seenSection) return false;  // the section ended without the mnemonic
       inSection = iequals(parseTitleLine(t, association), sectionName);
       seenSection = inSection;

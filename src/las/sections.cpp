@@ -6,15 +6,11 @@
 
 #include "base/text.h"
 #include "las/line_reader.h"
+#include "las/lines.h"
 
 namespace zorvik {
 
 namespace {
-
-bool isTitle(std::string_view line) {
-  std::string_view t = trimLeftView(line);
-  return !t.empty() && t[0] == '~';
-}
 
 int roleOfName(std::string_view name, bool v3) {
   // Tested in this order, so "Well_Data" is data and not a header.
@@ -107,7 +103,7 @@ bool buildSectionIndex(const std::string& fileName, const Dialect& dialect, Sect
   std::string_view line;
   std::string association;
   while (reader.readLine(line)) {
-    if (!isTitle(line)) continue;
+    if (!isTitleLine(line)) continue;
     std::string name = parseTitleLine(line, association);
     if (name.empty()) continue;
     SectionEntry entry;

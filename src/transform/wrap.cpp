@@ -13,6 +13,7 @@
 #include "checks/window_ops.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
+#include "las/lines.h"
 #include "las/param_writer.h"
 #include "las/sections.h"
 
@@ -41,7 +42,7 @@ bool readHeaderUnwrapped(LineReader& in, std::string& header, std::int64_t& data
   std::string_view line;
   while (in.readLine(line)) {
     std::string_view t = trimView(line);
-    if (!t.empty() && t[0] == '~') {
+    if (isTitleLine(t)) {
       // "~A" covers both "~ASCII" and the bare "~A" of 1.2 files.
       if (istartsWith(t, "~A")) {
         dataStart = in.position();
@@ -84,7 +85,7 @@ void writeUnwrapped(const std::string& source, int linesPerRecord, FileSink& out
   std::string_view line;
   while (in.readLine(line)) {
     std::string_view t = trimLeftView(line);
-    if (!t.empty() && t[0] == '~') {
+    if (isTitleLine(t)) {
       tailStart = in.lineStart();  // a section after the data is copied as it stands
       break;
     }

@@ -15,7 +15,7 @@ TEST(Text, TrimAndSearchHabits) {
   EXPECT_EQ(splitOnBlanks("  a   b "), (std::vector<std::string>{"a", "b"}));
 }
 
-TEST(Text, NumbersReadLikeClassicVal) {
+TEST(Text, NumbersReadFromTheFront) {
   const std::tuple<const char*, double> rows[] = {
       {"  1.20  : x", 1.2}, {"abc", 0}, {"-3.5e2x", -350}, {"3.", 3}, {"", 0}, {"1e", 1},
   };
