@@ -1,13 +1,12 @@
 #include "run/settings.h"
 
-#include <unistd.h>
-
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <vector>
 
+#include "base/file_writer.h"
 #include "base/text.h"
 #include "checks/run_state.h"
 
@@ -132,20 +131,14 @@ void writeSetting(const std::string& key, const std::string& value) {
   }
 
   std::error_code ec;
-  std::filesystem::path target(path);
-  std::filesystem::create_directories(target.parent_path(), ec);
-  // Written beside the store and renamed over it, so a failed write never loses the old one.
-  std::string temporary = path + ".tmp" + toText(static_cast<long long>(getpid()));
-  std::FILE* file = std::fopen(temporary.c_str(), "wb");
-  if (file == nullptr) return;
-  bool ok = true;
-  for (const std::string& line : lines) {
-    ok = ok && std::fwrite(line.data(), 1, line.size(), file) == line.size();
-    ok = ok && std::fputc('\n', file) != EOF;
-  }
-  ok = (std::fclose(file) == 0) && ok;
-  if (ok) std::filesystem::rename(temporary, target, ec);
-  if (!ok || ec) std::filesystem::remove(temporary, ec);
+  std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ec);
+  // A store that cannot be written stays as it was; the settings are not worth a complaint.
+  writeFileSafely(path, [&lines](FileSink& sink) {
+    for (const std::string& line : lines) {
+      sink.write(line);
+      sink.write("\n");
+    }
+  });
 }
 
 void readSettings() {

@@ -1,8 +1,11 @@
 // `zorvik repair` and `zorvik convert`: the operations of src/transform driven from the shell,
 // each followed by the certification of the file it wrote.
+#include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
 
+#include "base/file_writer.h"
 #include "run/certify_file.h"
 #include "run/check_output.h"
 #include "run/tool.h"
@@ -34,6 +37,22 @@ std::optional<std::vector<CatalogueRow>> failingRowsOf(const FileCertification& 
   return rows;
 }
 
+// Copies `from` to `to` through the safe writer; the reason when it could not.
+std::optional<std::string> copyFile(const std::string& from, const std::string& to) {
+  const auto error = writeFileSafely(to, [&from](FileSink& sink) {
+    std::FILE* in = std::fopen(from.c_str(), "rb");
+    if (in == nullptr) return sink.abandon("the file could not be read", errno);
+    std::string buffer(1 << 16, '\0');
+    std::size_t got = 0;
+    while (!sink.failure() && (got = std::fread(buffer.data(), 1, buffer.size(), in)) > 0)
+      sink.write(std::string_view(buffer).substr(0, got));
+    if (std::ferror(in)) sink.abandon("the file could not be read", errno);
+    std::fclose(in);
+  });
+  if (!error) return std::nullopt;
+  return describeWriteError(*error);
+}
+
 // The changes, then the new verdict lines of `file`.
 int reportAfter(const std::string& file, const std::vector<Change>& changes, const char* nothing) {
   std::fputs(changes.empty() ? nothing : describeChanges(changes).c_str(), stdout);
@@ -53,9 +72,8 @@ int repairCommand(const std::string& file, const std::string& output, const std:
   // input is never written.
   std::string target = file;
   if (!output.empty()) {
-    std::error_code ec;
-    std::filesystem::copy_file(file, output, std::filesystem::copy_options::overwrite_existing, ec);
-    if (ec) return usageError("repair", "cannot write " + output + ": " + ec.message());
+    if (auto failure = copyFile(file, output))
+      return usageError("repair", "cannot write " + output + ": " + *failure);
     target = output;
   }
 

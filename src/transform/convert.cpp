@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/file_writer.h"
 #include "base/text.h"
 #include "las/header_line.h"
 #include "las/param_writer.h"
@@ -197,8 +198,26 @@ class Converter {
   }
 
   bool write(const std::string& source) {
-    std::unique_ptr<OutputSink> out = request_.openOutput(result_.output);
-    auto put = [&](std::string_view text) { out->write(text) && out->write(CRLF); };
+    bool unreadable = false;
+    const auto error = writeFileSafely(result_.output, [&](FileSink& out) {
+      if (!produce(source, out)) {
+        unreadable = true;
+        out.abandon("the file could not be read");
+      }
+    });
+    if (unreadable) return fail("The file could not be read.");
+    if (error)
+      return fail("The converted file could not be written: " + describeWriteError(*error));
+    return true;
+  }
+
+ private:
+  // Streams the converted file into `out`; false when the input could not be read.
+  bool produce(const std::string& source, FileSink& out) {
+    auto put = [&](std::string_view text) {
+      out.write(text);
+      out.write(CRLF);
+    };
 
     put("~Version Information");
     put(" VERS.                  3.0 : CWLS LOG ASCII STANDARD - VERSION 3.0");
@@ -221,12 +240,9 @@ class Converter {
     for (const std::string& l : header_.dataComments) put(l);
     put(log ? "~Log_Data | Log_Definition" : "~ASCII");
 
-    if (!writeData(source, *out)) return false;
-    if (!out->commit()) return fail("The converted file could not be written: " + out->error());
-    return true;
+    return writeData(source, out);
   }
 
- private:
   bool fail(std::string why) {
     result_.error = std::move(why);
     return false;
@@ -316,10 +332,9 @@ class Converter {
     }
   }
 
-  bool writeData(const std::string& source, OutputSink& out) {
+  bool writeData(const std::string& source, FileSink& out) {
     PhysicalLines in;
-    if (!in.open(source) || !in.seek(header_.dataOffset, header_.dataLine))
-      return fail("The file could not be read.");
+    if (!in.open(source) || !in.seek(header_.dataOffset, header_.dataLine)) return false;
     const char delimiter = delimiterChar(request_.delimiter);
     std::string record;
     std::string_view line, ending;
@@ -344,10 +359,10 @@ class Converter {
       }
       if (record.empty()) continue;  // a blank line holds no record
       record.append(CRLF);
-      if (!out.write(record)) break;
+      out.write(record);
+      if (out.failure()) break;
     }
-    if (in.tooLong() || in.failed()) return fail("The file could not be read.");
-    return true;
+    return !in.tooLong() && !in.failed();
   }
 
   const ConvertRequest& request_;

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "transform/changes.h"
-#include "transform/output_file.h"
 
 namespace zorvik {
 
@@ -29,7 +28,6 @@ struct ConvertRequest {
   DataDelimiter delimiter = DataDelimiter::Space;
   // Folder of the temporary unwrapped copy of wrapped input; empty: the output's folder.
   std::string workFolder;
-  SinkFactory openOutput = openReplacing;
 };
 
 enum class ConvertOutcome { Written, Failed };

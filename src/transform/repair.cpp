@@ -6,6 +6,8 @@
 #include <map>
 #include <system_error>
 
+#include "base/file_writer.h"
+#include "base/in_place.h"
 #include "base/text.h"
 #include "checks/data_scan.h"
 #include "las/header_line.h"
@@ -93,6 +95,8 @@ struct KnownLine {
 // What the first reading learns of the file.
 struct Facts {
   bool bom = false;
+  bool tabs = false;            // anywhere in the file
+  bool indentedTitles = false;  // title lines with blanks before the tilde
   std::int64_t firstBadEnding = 0;
   std::int64_t badEndings = 0;
   std::int64_t firstTitle = 0;
@@ -191,6 +195,8 @@ bool readFacts(const std::string& path, Facts& facts) {
       facts.bom = true;
       line.remove_prefix(BOM.size());
     }
+    if (line.find('\t') != std::string_view::npos) facts.tabs = true;
+    if (isTitle(line) && line.front() != '~') facts.indentedTitles = true;
     if (ending != CRLF && !ending.empty()) {
       if (facts.firstBadEnding == 0) facts.firstBadEnding = n;
       ++facts.badEndings;
@@ -254,11 +260,62 @@ class Repairer {
     planIndexValues();
   }
 
-  // Writes the file with the planned edits and the per-line repairs; false on failure.
+  // Writes the repaired file to `destination` (`source` itself: rewritten in place); false, with
+  // the reason, on failure. `changed` tells whether anything was repaired; when nothing was, no
+  // file is written.
   bool write(const std::string& source, const std::string& destination, bool& changed) {
+    changed = false;
+    if (!mayChange()) return true;
+    bool unreadable = false;
+    auto produce = [&](const std::string& from, FileSink& sink) {
+      if (!stream(from, sink)) {
+        unreadable = true;
+        sink.abandon("the file could not be read");
+      }
+    };
+    std::string failure;
+    if (destination == source) {
+      // The input itself is replaced: locked, and left alone when it may not or must not be.
+      const RewriteResult rewrite = rewriteInPlace(source, [&](const std::string& locked) {
+        return EditPlan{
+            EditPlan::Kind::Write, [&, locked](FileSink& sink) { produce(locked, sink); }, {}};
+      });
+      if (rewrite.outcome == RewriteOutcome::Refused) failure = rewrite.reason;
+    } else {
+      // A copy that would come out the same as the input is not written.
+      bool unchanged = false;
+      WriteOptions options;
+      options.beforeRename = [&]() -> std::optional<WriteError> {
+        if (changed_) return std::nullopt;
+        unchanged = true;
+        return WriteError{WriteStep::Changed, 0, "nothing was repaired"};
+      };
+      const auto error = writeFileSafely(
+          destination, [&](FileSink& sink) { produce(source, sink); }, options);
+      if (error && !unchanged) failure = describeWriteError(*error);
+    }
+    if (unreadable) return fail("The file could not be read.");
+    if (!failure.empty()) return fail("The repaired file could not be written: " + failure);
+    changed = changed_;
+    return true;
+  }
+
+ private:
+  // Whether writing can change anything at all: a file with nothing to repair is not copied.
+  bool mayChange() const {
+    const Facts& f = *facts_;
+    const bool fixEnds = allowed(LINE_ENDS);
+    const bool fixTabs = allowed(HEADER_DESCRIPTION) || allowed(HEADER_LINE_TYPE);
+    const bool fixTitles = allowed(TITLE_FORMAT) || allowed(SECTIONS_PRESENT);
+    return !inserts_.empty() || !replaces_.empty() || (fixEnds && (f.bom || f.badEndings > 0)) ||
+           (fixTabs && f.tabs) || (fixTitles && f.indentedTitles);
+  }
+
+  // Streams the file with the planned edits and the per-line repairs into `out`; false when the
+  // file could not be read.
+  bool stream(const std::string& source, FileSink& out) {
     PhysicalLines in;
-    if (!in.open(source)) return fail("The file could not be read.");
-    std::unique_ptr<OutputSink> out = request_.openOutput(destination);
+    if (!in.open(source)) return false;
     std::string text;
     std::string_view line, ending;
     char section = '\0';
@@ -269,7 +326,7 @@ class Repairer {
       std::int64_t first = 0;
       std::int64_t lines = 0;
     } dataTabs;
-    emitInserted(0, *out);
+    emitInserted(0, out);
     while (in.next(line, ending)) {
       const std::int64_t n = in.number();
       text.assign(line);
@@ -303,11 +360,11 @@ class Repairer {
       }
       std::string_view end = ending;
       if (fixEnds && !ending.empty() && ending != CRLF) end = CRLF;
-      out->write(text);
-      out->write(end);
-      emitInserted(n, *out);
+      out.write(text);
+      out.write(end);
+      emitInserted(n, out);
     }
-    if (in.failed() || in.tooLong()) return fail("The file could not be read.");
+    if (in.failed() || in.tooLong()) return false;
     if (dataTabs.lines > 0)
       record(ChangeKind::Changed, dataTabs.first, HEADER_LINE_TYPE,
              "tabs between data values made blanks on " + toText(dataTabs.lines) +
@@ -317,13 +374,9 @@ class Repairer {
       record(ChangeKind::Changed, facts_->firstBadEnding, LINE_ENDS,
              "line ends made CR LF on " + toText(facts_->badEndings) + " line(s) from here", "",
              "");
-    changed = changed_;
-    if (!changed_) return true;  // nothing to put in place: the sink is dropped unused
-    if (!out->commit()) return fail("The repaired file could not be written: " + out->error());
     return true;
   }
 
- private:
   struct Replacement {
     CatalogueRow row;
     std::string what;
@@ -350,7 +403,7 @@ class Repairer {
     inserts_[after].push_back({row, std::move(what), std::move(line)});
   }
 
-  void emitInserted(std::int64_t after, OutputSink& out) {
+  void emitInserted(std::int64_t after, FileSink& out) {
     auto it = inserts_.find(after);
     if (it == inserts_.end()) return;
     for (const Replacement& r : it->second) {

@@ -2,8 +2,9 @@
 // ends, tabs (between data values too), blanks before a title's tilde, missing ~Version and ~Well
 // lines, and STRT/STOP/STEP values that disagree with the data. Data value texts never change.
 //
-// The file is read twice line by line and written once through the replacing writer: only the
-// header and a few facts of the data are held in memory.
+// The file is read twice line by line and written once through the safe file writer (in place: as
+// a locked rewrite, refused for a read-only, multiply linked or changing file): only the header
+// and a few facts of the data are held in memory.
 #pragma once
 
 #include <functional>
@@ -13,7 +14,6 @@
 
 #include "checks/check_table.h"
 #include "transform/changes.h"
-#include "transform/output_file.h"
 
 namespace zorvik {
 
@@ -29,7 +29,6 @@ struct RepairRequest {
   // Asked for the index unit when ~Well lines with units are missing and the index channel has
   // none; an empty answer (or no function) skips those lines.
   std::function<std::string(const std::string& prompt)> askIndexUnits;
-  SinkFactory openOutput = openReplacing;
 };
 
 enum class RepairOutcome {

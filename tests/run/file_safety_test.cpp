@@ -21,12 +21,14 @@
 #include "checks/report.h"
 #include "checks/run_state.h"
 #include "support/batch_run.h"
+#include "support/failing_writes.h"
 #include "support/scratch.h"
 
 namespace zorvik {
 namespace {
 
 namespace fs = std::filesystem;
+using testing::FailingWrites;
 using testing::namesIn;
 using testing::ProgramSandbox;
 using testing::readBytes;
@@ -61,38 +63,6 @@ TEST(LogFileWritable, LooksWithoutOpeningAnything) {
   EXPECT_FALSE(fs::exists(dir.file("new.log")));
   EXPECT_FALSE(fs::exists(dir.file("absent.log")));
 }
-
-// Real calls, except that writes to files whose name holds `namePart` fail with ENOSPC, or, with
-// `shortOnce`, the first of them takes half of its bytes.
-class FailingWrites : public FileSystemCalls {
- public:
-  FailingWrites(std::string namePart, bool shortOnce)
-      : namePart_(std::move(namePart)), shortOnce_(shortOnce) {}
-  int open(const char* path, int flags, mode_t mode) override {
-    int fd = FileSystemCalls::open(path, flags, mode);
-    if (fd >= 0 && std::string(path).find(namePart_) != std::string::npos) chosen_.insert(fd);
-    return fd;
-  }
-  ssize_t write(int fd, const void* data, std::size_t size) override {
-    if (chosen_.count(fd) == 0) return FileSystemCalls::write(fd, data, size);
-    if (shortOnce_) {
-      shortOnce_ = false;
-      chosen_.erase(fd);
-      return FileSystemCalls::write(fd, data, size / 2);
-    }
-    errno = ENOSPC;
-    return -1;
-  }
-  int close(int fd) override {
-    chosen_.erase(fd);
-    return FileSystemCalls::close(fd);
-  }
-
- private:
-  std::string namePart_;
-  bool shortOnce_;
-  std::set<int> chosen_;
-};
 
 TEST(Report, AFailedWriteKeepsThePreviousLogFileAndSaysWhy) {
   testing::RunSandbox sandbox;

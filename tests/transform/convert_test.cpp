@@ -7,10 +7,13 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <optional>
 
+#include "base/file_writer.h"
 #include "base/text.h"
 #include "las/header_line.h"
 #include "support/batch_run.h"
+#include "support/failing_writes.h"
 #include "support/scratch.h"
 
 namespace zorvik {
@@ -241,23 +244,6 @@ TEST(ConvertFile, ThreeLetterCountryCodesBecomeTwoLetterOnes) {
   }
 }
 
-// A sink that accepts `budget` bytes and fails after them, as a full disk does.
-class FailingSink final : public OutputSink {
- public:
-  explicit FailingSink(std::size_t budget) : budget_(budget) {}
-  bool write(std::string_view bytes) override {
-    if (bytes.size() > budget_) failed_ = true;
-    budget_ -= failed_ ? budget_ : bytes.size();
-    return !failed_;
-  }
-  bool commit() override { return false; }
-  std::string error() const override { return failed_ ? "No space left on device" : ""; }
-
- private:
-  std::size_t budget_;
-  bool failed_ = false;
-};
-
 TEST(ConvertFile, FailuresWriteNothingAndLeaveTheInputAlone) {
   ScratchDir dir;
   const std::string bytes = generatedLas(true);
@@ -266,21 +252,22 @@ TEST(ConvertFile, FailuresWriteNothingAndLeaveTheInputAlone) {
     const char* label;
     std::string input;
     std::string output;
-    SinkFactory sink;
+    bool fullDisk;
   };
   const Row rows[] = {
-      {"full disk", source, dir.file("out.las"),
-       [](const std::string&) { return std::make_unique<FailingSink>(100); }},
-      {"missing input", dir.file("missing.las"), dir.file("out.las"), openReplacing},
-      {"output over the input", source, source, openReplacing},
-      {"folder that does not exist", source, dir.file("no/such/folder/out.las"), openReplacing},
+      {"full disk", source, dir.file("out.las"), true},
+      {"missing input", dir.file("missing.las"), dir.file("out.las"), false},
+      {"output over the input", source, source, false},
+      {"folder that does not exist", source, dir.file("no/such/folder/out.las"), false},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.label);
     ConvertRequest request;
     request.input = row.input;
     request.output = row.output;
-    request.openOutput = row.sink;
+    testing::FailingWrites full("out.las");
+    std::optional<ScopedFileSystemCalls> installed;
+    if (row.fullDisk) installed.emplace(full);
     const ConvertResult result = convertFile(request);
     EXPECT_EQ(result.outcome, ConvertOutcome::Failed);
     EXPECT_FALSE(result.error.empty());

@@ -7,17 +7,22 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <optional>
 
+#include "base/file_writer.h"
 #include "base/text.h"
 #include "checks/report.h"
 #include "checks/run_state.h"
 #include "run/interactive_run.h"
 #include "support/batch_run.h"
+#include "support/failing_writes.h"
 #include "support/scratch.h"
 
 namespace zorvik {
 namespace {
 
+using testing::FailingWrites;
+using testing::namesIn;
 using testing::readBytes;
 using testing::RunSandbox;
 
@@ -277,41 +282,65 @@ TEST(RepairFile, FaultsOnlyTheUserCanFixAreListedNotRepaired) {
       << describeChanges(result.changes);
 }
 
-class FailingSink final : public OutputSink {
- public:
-  bool write(std::string_view) override { return false; }
-  bool commit() override { return false; }
-  std::string error() const override { return "No space left on device"; }
-};
-
-TEST(RepairFile, AFailedWriteLeavesTheInputByteIdentical) {
-  RunSandbox sandbox;
+TEST(RepairFile, AFailedOrRefusedWriteLeavesTheInputByteIdentical) {
+  namespace fs = std::filesystem;
   const std::string faulty = replaceAll(kBase, "\r\n", "\n");
-  const std::string path = sandbox.dir().write("well.las", faulty);
   struct Row {
     const char* label;
-    std::string output;
-    SinkFactory sink;
+    const char* output;  // in the scratch folder; empty: in place
+    bool fullDisk;
+    std::function<void(const std::string& input)> prepare;
   };
   const Row rows[] = {
-      {"full disk", "", [](const std::string&) { return std::make_unique<FailingSink>(); }},
-      {"folder that does not exist", sandbox.dir().file("gone/well.las"), openReplacing},
+      {"full disk", "", true, nullptr},
+      {"full disk, to another file", "repaired.las", true, nullptr},
+      {"folder that does not exist", "gone/well.las", false, nullptr},
+      {"read-only input", "", false,
+       [](const std::string& in) { fs::permissions(in, fs::perms::owner_read); }},
+      {"input with a second name", "", false,
+       [](const std::string& in) { fs::create_hard_link(in, in + ".bak"); }},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.label);
+    RunSandbox sandbox;
+    const std::string path = sandbox.dir().write("well.las", faulty);
+    if (row.prepare) row.prepare(path);
+    const std::vector<std::string> before = namesIn(sandbox.dir().path());
     RepairRequest request;
     request.file = path;
-    request.output = row.output;
-    request.openOutput = row.sink;
+    if (*row.output != '\0') request.output = sandbox.dir().file(row.output);
+    FailingWrites full(".las");
+    std::optional<ScopedFileSystemCalls> installed;
+    if (row.fullDisk) installed.emplace(full);
     const RepairResult result = repairFile(request);
     EXPECT_EQ(result.outcome, RepairOutcome::Failed);
-    EXPECT_FALSE(result.error.empty());
+    EXPECT_EQ(result.error.rfind("The repaired file could not be written: ", 0), 0u)
+        << result.error;
     EXPECT_TRUE(result.changes.empty());
     EXPECT_EQ(readBytes(path), faulty);
-    std::size_t files = 0;
-    for ([[maybe_unused]] const auto& e : std::filesystem::directory_iterator(sandbox.dir().path()))
-      if (e.is_regular_file()) ++files;
-    EXPECT_EQ(files, 1u) << "temporary files must be removed";
+    EXPECT_EQ(namesIn(sandbox.dir().path()), before) << "no temporary file, no output";
+    fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
+  }
+}
+
+TEST(RepairFile, ALinkedFileIsRepairedAndTheLinkStaysALink) {
+  namespace fs = std::filesystem;
+  const std::string faulty = replaceAll(kBase, "\r\n", "\n");
+  for (const bool inPlace : {true, false}) {
+    SCOPED_TRACE(inPlace ? "in place" : "to another file");
+    RunSandbox sandbox;
+    const std::string real = sandbox.dir().write("real.las", inPlace ? faulty : "old copy\n");
+    const std::string link = sandbox.dir().file("link.las");
+    fs::create_symlink("real.las", link);
+    RepairRequest request;
+    request.file = inPlace ? link : sandbox.dir().write("well.las", faulty);
+    request.output = inPlace ? "" : link;
+    ASSERT_EQ(repairFile(request).outcome, RepairOutcome::Repaired);
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(readBytes(real), kBase);
+    if (!inPlace) {
+      EXPECT_EQ(readBytes(request.file), faulty);
+    }
   }
 }
 
