@@ -14,8 +14,9 @@
 #include "base/command_log.h"
 #include "base/text.h"
 #include "checks/report.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "run/interactive_run.h"
+#include "run/session.h"
 #include "run/version_sniff.h"
 #include "transform/repair.h"
 
@@ -27,14 +28,16 @@ namespace {
 struct Certified {
   bool passed = false;
   std::vector<CatalogueRow> rows;
+  bool version3 = false;  // certified by the 3.0 checks
 };
 
 Certified certify(const std::string& path) {
-  resetRunState();
-  runState().lasFile = path;
-  runInteractive();
-  return {verdictLine(reportTable()).find("PASSED") != std::string::npos,
-          failingRows(runState().table2)};
+  Session session;
+  session.lasFile = path;
+  RunContext run;
+  runInteractive(session, run, nullptr);
+  return {verdictLine(run).find("PASSED") != std::string::npos, failingRows(run.table2),
+          run.isV3()};
 }
 
 std::string rowText(CatalogueRow row) {
@@ -69,7 +72,7 @@ int main(int argc, char** argv) {
     const float version = sniffVersion(copy.string());
     if (version == 3.0f) continue;
     const Certified before = certify(copy.string());
-    if (before.passed || isVersion3()) continue;
+    if (before.passed || before.version3) continue;
     ++failing;
     RepairRequest request;
     request.file = copy.string();
@@ -77,13 +80,13 @@ int main(int argc, char** argv) {
     const RepairResult result =
         repairInRounds(request, [&]() -> std::optional<std::vector<CatalogueRow>> {
           const Certified c = certify(copy.string());
-          if (isVersion3()) return std::nullopt;
+          if (c.version3) return std::nullopt;
           return c.rows;
         });
     const Certified after = certify(copy.string());
     // A 3.0 file with LF line ends reads as one line, so its version shows only
     // once repaired.
-    if (isVersion3()) {
+    if (after.version3) {
       ++hidden3;
       continue;
     }

@@ -3,7 +3,7 @@
 #include "base/text.h"
 #include "checks/data_lines.h"
 #include "checks/data_scan.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "las/line_reader.h"
 
 namespace zorvik {
@@ -18,9 +18,10 @@ int evaluate(const Slots& slots) {
 
 // The first bad record of one data section into slots 2 and 4, from group 4's pass over this very
 // data when it made the same walk, else by reading the records.
-void judgeRecords(const std::string& fileName, std::int64_t start, const RecordRules& rules,
+void judgeRecords(const RunContext& run, std::int64_t start, const RecordRules& rules,
                   Slots& slots) {
-  const DataScan* kept = keptScan(fileName, start);
+  const std::string& fileName = run.lasFile;
+  const DataScan* kept = keptScan(run.dataScan, fileName, start);
   if (kept != nullptr && sameRules(kept->rules, rules)) {
     slots[2] = kept->countFinding;
     slots[4] = kept->lengthFinding;
@@ -38,45 +39,46 @@ void judgeRecords(const std::string& fileName, std::int64_t start, const RecordR
 
 }  // namespace
 
-int dataChannelDefinitions(const std::string& fileName, const SectionEntry& dataSection,
+int dataChannelDefinitions(RunContext& run, const SectionEntry& dataSection,
                            const ParamTable& curveTable, std::string& definitionName) {
-  const std::string& curveName = runState().sections.curveName;
+  const std::string& curveName = run.sections.curveName;
   std::string_view association = trimView(dataSection.association);
   definitionName = curveName;
   if (association.empty() || iequals(association, curveName)) return curveTable.lastEntry();
   ParamTable own;
-  parseSectionTable(fileName, runState().dialect, runState().sections, own, association);
+  parseSectionTable(run.lasFile, run.dialect, run.sections, own, association);
   definitionName = std::string(association);
   return own.lastEntry();
 }
 
-RecordRules asciiRecordRules(const std::string& wrapValue, int linesPerRecord, int definitions) {
+RecordRules asciiRecordRules(const std::string& wrapValue, int linesPerRecord, int definitions,
+                             bool judgeLength) {
   RecordRules rules;
   rules.wrapped = !iequals(trimView(wrapValue), "NO");
   rules.linesPerRecord = linesPerRecord;
   rules.expectedValues = definitions;
-  rules.judgeLength = runState().doWrap;  // lengths only on request, wrapped or not
+  rules.judgeLength = judgeLength;
   return rules;
 }
 
-int checkAsciiSection(const std::string& fileName, const std::string& wrapValue, int linesPerRecord,
+int checkAsciiSection(RunContext& run, const std::string& wrapValue, int linesPerRecord,
                       int channels, const ParamTable& curveTable, Slots& slots) {
+  const std::string& fileName = run.lasFile;
   for (int k = 1; k <= 4; ++k) slots[k].clear();
-  RunState& state = runState();
-  const std::vector<SectionEntry> index = state.sections.entries;
+  const std::vector<SectionEntry> index = run.sections.entries;
   std::int64_t length = fileLength(fileName);
 
   for (const SectionEntry& section : index) {
     if (section.role != ROLE_DATA) continue;
 
     std::string definitionName;
-    int definitions = dataChannelDefinitions(fileName, section, curveTable, definitionName);
+    int definitions = dataChannelDefinitions(run, section, curveTable, definitionName);
     int values = channels;
-    if (isVersion3()) {
+    if (run.isV3()) {
       LineReader file(fileName);
       file.seek(section.start);
       std::string_view line;
-      values = file.readLine(line) ? countWords(line, state.dialect.delimiter) : 0;
+      values = file.readLine(line) ? countWords(line, run.dialect.delimiter) : 0;
     }
     if (definitions != values) {
       slots[1] = "~" + definitionName + " has " + toText(definitions) +
@@ -86,8 +88,9 @@ int checkAsciiSection(const std::string& fileName, const std::string& wrapValue,
     }
 
     if (noDataAt(section.start, length)) return CHECK_FAULT;
-    judgeRecords(fileName, section.start, asciiRecordRules(wrapValue, linesPerRecord, definitions),
-                 slots);
+    // Line lengths are judged only on request (/W), wrapped data or not.
+    judgeRecords(run, section.start,
+                 asciiRecordRules(wrapValue, linesPerRecord, definitions, run.doWrap), slots);
     if (!slots[2].empty() || !slots[4].empty()) return evaluate(slots);
   }
 

@@ -13,19 +13,23 @@
 
 namespace zorvik {
 
+struct RunContext;
+
 // Fills slots 1..4 and returns CHECK_PASSED, CHECK_FAILED or CHECK_FAULT. `linesPerRecord` and
 // `channels` are what group 4's wrap analysis found; line lengths of unwrapped data are judged
-// only when runState().doWrap is set.
-int checkAsciiSection(const std::string& fileName, const std::string& wrapValue, int linesPerRecord,
+// only when the run asks for the wrap checks.
+int checkAsciiSection(RunContext& run, const std::string& wrapValue, int linesPerRecord,
                       int channels, const ParamTable& curveTable, Slots& slots);
 
 // The number of channel definitions the data section must carry values for: those of the section
 // it is associated with, or of the driver's ~Curve table when that is the one or the data names
 // none. `definitionName` receives that section's name. Cannot fail (a missing section has none).
-int dataChannelDefinitions(const std::string& fileName, const SectionEntry& dataSection,
+int dataChannelDefinitions(RunContext& run, const SectionEntry& dataSection,
                            const ParamTable& curveTable, std::string& definitionName);
 
-// How the records of the data are judged for a WRAP value and group 4's lines per record.
-RecordRules asciiRecordRules(const std::string& wrapValue, int linesPerRecord, int definitions);
+// How the records of the data are judged for a WRAP value and group 4's lines per record; line
+// lengths only with `judgeLength`.
+RecordRules asciiRecordRules(const std::string& wrapValue, int linesPerRecord, int definitions,
+                             bool judgeLength);
 
 }  // namespace zorvik

@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "base/command_log.h"
 #include "base/fault.h"
 #include "base/text.h"
 #include "cert2/ascii_checks.h"
@@ -10,10 +9,10 @@
 #include "cert2/well_checks.h"
 #include "checks/catalogue.h"
 #include "checks/file_value.h"
-#include "checks/run_state.h"
+#include "checks/null_stop_repair.h"
+#include "checks/run_context.h"
 #include "checks/section_structure.h"
 #include "checks/version_checks.h"
-#include "checks/window_ops.h"
 #include "las/sections.h"
 
 namespace zorvik {
@@ -33,13 +32,8 @@ enum class Next { Go, Stop, Cancel, Fail };
 // with fault number 0 ("Error: Error in aaCertify2:").
 struct RunFailed {};
 
-WindowOps* activeWindow() {
-  const RunState& rs = runState();
-  return rs.batchMode ? nullptr : rs.window;
-}
-
-void setBusy(bool busy) {
-  if (WindowOps* window = activeWindow()) window->setBusyPointer(busy);
+void setBusy(const RunContext& run, bool busy) {
+  if (run.observer != nullptr) run.observer->setBusyPointer(busy);
 }
 
 Slots presetSlots(int undecidedRows) {
@@ -49,19 +43,25 @@ Slots presetSlots(int undecidedRows) {
 }
 
 // 1.2/2.0 data is blank delimited; a 3.0 file names its delimiter in ~Version.
-std::string currentDelimiter(const std::string& fileName) {
-  if (!isVersion3()) return " ";
-  return delimiterForWord(lookupFileValue(fileName, "DLM", "Version"));
+std::string currentDelimiter(RunContext& run) {
+  if (!run.isV3()) return " ";
+  return delimiterForWord(lookupFileValue(run, "DLM", "Version"));
 }
 
 // Loads a header section by its full name, and outside 3.0 by its one-letter name when the full
 // one is not there. False when loading failed (not when the section is missing).
-bool loadHeaderTable(const std::string& fileName, ParamTable& table, std::string_view name,
+bool loadHeaderTable(RunContext& run, ParamTable& table, std::string_view name,
                      std::string_view letter) {
-  int loaded = parseSectionTable(fileName, runState().dialect, runState().sections, table, name);
-  if (loaded == 1 && !isVersion3())
-    loaded = parseSectionTable(fileName, runState().dialect, runState().sections, table, letter);
+  int loaded = parseSectionTable(run.lasFile, run.dialect, run.sections, table, name);
+  if (loaded == 1 && !run.isV3())
+    loaded = parseSectionTable(run.lasFile, run.dialect, run.sections, table, letter);
   return loaded != 0;
+}
+
+// Loads the section `name` when the run found one; false when loading failed.
+bool loadNamedTable(RunContext& run, ParamTable& table, const std::string& name) {
+  return name.empty() ||
+         parseSectionTable(run.lasFile, run.dialect, run.sections, table, name) != 0;
 }
 
 // The country note alone in group 5 keeps the stop rule off for the rest of the run.
@@ -71,27 +71,24 @@ bool onlyCountryNoteRecorded(const CheckTable& table) {
 }
 
 // Runs after every check: events, Escape, progress, recording and the stop rule.
-Next afterCheck(int checkNumber, int& checkResult, const Slots& slots) {
-  RunState& rs = runState();
-  CheckTable& table = rs.table2;
-  WindowOps* window = activeWindow();
+Next afterCheck(RunContext& run, int checkNumber, int& checkResult, const Slots& slots) {
+  CheckTable& table = run.table2;
+  RunObserver* observer = run.observer;
 
-  if (rs.window != nullptr) rs.window->processEvents();
-  if (rs.escapePressed) {
-    if (window != nullptr && !rs.suppressCancelQuestion) {
-      if (window->askYesNo("Please Confirm!",
-                           "Do you want to cancel the certification in progress?"))
+  if (observer != nullptr) {
+    observer->processEvents();
+    if (observer->cancelRequested()) {
+      // A Yes leaves the request standing: the run driver serves it once the run has stopped.
+      if (observer->askYesNo("Please Confirm!",
+                             "Do you want to cancel the certification in progress?"))
         return Next::Cancel;
       checkResult = kAnsweredNo;
+      observer->clearCancelRequest();
     }
-    rs.escapePressed = false;
-  }
-
-  if (window != nullptr) {
     const int percent =
         static_cast<int>(std::lround(100.0 * checkNumber / static_cast<double>(table.lastGroup())));
-    window->setProgress(percent,
-                        "Doing check " + toText(checkNumber) + " (Press ESC to cancel...)");
+    observer->setProgress(percent,
+                          "Doing check " + toText(checkNumber) + " (Press ESC to cancel...)");
   }
 
   if (checkResult == CHECK_FAILED || checkResult == CHECK_FAULT) {
@@ -105,16 +102,15 @@ Next afterCheck(int checkNumber, int& checkResult, const Slots& slots) {
 
 // The checks in their order. Returns how the run ended; throws RunFailed or a fault when it
 // cannot go on.
-Next runChecks(const std::string& fileName, const Certify2Checks& checks) {
-  RunState& rs = runState();
-  CheckTable& table = rs.table2;
+Next runChecks(RunContext& run, const Certify2Checks& checks) {
+  CheckTable& table = run.table2;
   int result = CHECK_FAULT;
   Next next = Next::Go;
 
-  rs.dialect.delimiter = currentDelimiter(fileName);
-  if (!locateStandardSections(fileName, runState().dialect, runState().sections)) {
+  run.dialect.delimiter = currentDelimiter(run);
+  if (!locateStandardSections(run.lasFile, run.dialect, run.sections)) {
     Slots none;
-    if (afterCheck(0, result, none) == Next::Cancel) return Next::Cancel;
+    if (afterCheck(run, 0, result, none) == Next::Cancel) return Next::Cancel;
     throw RunFailed{};
   }
 
@@ -122,38 +118,30 @@ Next runChecks(const std::string& fileName, const Certify2Checks& checks) {
   ParamTable wellTable;
   ParamTable curveTable;
   ParamTable paramTable;
-  if (!loadHeaderTable(fileName, versionTable, "Version", "V")) throw RunFailed{};
-  if (!loadHeaderTable(fileName, wellTable, "Well", "W")) throw RunFailed{};
-  if (!rs.sections.curveName.empty() &&
-      parseSectionTable(fileName, runState().dialect, runState().sections, curveTable,
-                        rs.sections.curveName) == 0) {
-    throw RunFailed{};
-  }
-  if (!rs.sections.paramName.empty() &&
-      parseSectionTable(fileName, runState().dialect, runState().sections, paramTable,
-                        rs.sections.paramName) == 0) {
-    throw RunFailed{};
-  }
+  if (!loadHeaderTable(run, versionTable, "Version", "V")) throw RunFailed{};
+  if (!loadHeaderTable(run, wellTable, "Well", "W")) throw RunFailed{};
+  if (!loadNamedTable(run, curveTable, run.sections.curveName)) throw RunFailed{};
+  if (!loadNamedTable(run, paramTable, run.sections.paramName)) throw RunFailed{};
 
   // Group 2: ~Version. It may confirm the version, so the delimiter is worked out again.
   std::string wrapValue;
   Slots slots = presetSlots(6);
-  result = checks.versionSection(versionTable, wrapValue, slots);
-  rs.dialect.delimiter = currentDelimiter(fileName);
-  if ((next = afterCheck(2, result, slots)) != Next::Go) return next;
+  result = checks.versionSection(run, versionTable, wrapValue, slots);
+  run.dialect.delimiter = currentDelimiter(run);
+  if ((next = afterCheck(run, 2, result, slots)) != Next::Go) return next;
 
   // Group 3: section titles.
   slots = presetSlots(3);
-  result = checks.sectionStructure(fileName, slots);
-  if ((next = afterCheck(3, result, slots)) != Next::Go) return next;
+  result = checks.sectionStructure(run, slots);
+  if ((next = afterCheck(run, 3, result, slots)) != Next::Go) return next;
 
   // Group 4: line syntax; also measures the records that group 7 reads.
   int linesPerRecord = 1;
   int channels = 0;
   slots = presetSlots(0);
-  result = checks.lineSyntax(fileName, wrapValue, curveTable, slots, linesPerRecord, channels);
+  result = checks.lineSyntax(run, wrapValue, curveTable, slots, linesPerRecord, channels);
   const bool asciiHasOnlyData = slots[6].empty();
-  if ((next = afterCheck(4, result, slots)) != Next::Go) return next;
+  if ((next = afterCheck(run, 4, result, slots)) != Next::Go) return next;
 
   // Group 5: ~Well mnemonics. A missing country set alone is a note, not a failure: it is kept
   // beside the row's result, which the verdict and the stop rule read, and the row passes.
@@ -170,50 +158,49 @@ Next runChecks(const std::string& fileName, const Certify2Checks& checks) {
     well.step = mnemonicValue(wellTable, "STEP");
     well.nullValue = mnemonicValue(wellTable, "NULL");
   }
-  if ((next = afterCheck(kWellGroup, result, slots)) != Next::Go) return next;
+  if ((next = afterCheck(run, kWellGroup, result, slots)) != Next::Go) return next;
 
   // Group 6: STRT/STOP/STEP/NULL against the data, only when ~ASCII holds nothing but data;
   // otherwise the result of group 5 stands for it.
   slots = presetSlots(7);
   if (asciiHasOnlyData) {
-    rs.nullStopRepaired = false;
-    result = rs.sections.standardFound
-                 ? checks.indexRange(fileName, well, wrapValue, wellTable, curveTable, slots)
+    run.nullStopRepaired = false;
+    result = run.sections.standardFound
+                 ? checks.indexRange(run, well, wrapValue, wellTable, curveTable, slots)
                  : CHECK_PASSED;
   }
-  if ((next = afterCheck(6, result, slots)) != Next::Go) return next;
+  if ((next = afterCheck(run, 6, result, slots)) != Next::Go) return next;
 
   // Group 7: ~ASCII.
   slots = presetSlots(0);
-  result = checks.asciiSection(fileName, wrapValue, linesPerRecord, channels, curveTable, slots);
-  return afterCheck(7, result, slots);
+  result = checks.asciiSection(run, wrapValue, linesPerRecord, channels, curveTable, slots);
+  return afterCheck(run, 7, result, slots);
 }
 
 }  // namespace
 
 Certify2Checks standardCertify2Checks() {
-  return Certify2Checks{checkVersionSection, checkSectionStructure, checkLineSyntax,
-                        checkWellMnemonics,  checkIndexRange,       checkAsciiSection};
+  return Certify2Checks{checkVersionSection, checkSectionStructure,    checkLineSyntax,
+                        checkWellMnemonics,  checkIndexRangeRepairing, checkAsciiSection};
 }
 
-int aaCertify2(const std::string& fileName) {
-  return aaCertify2With(fileName, standardCertify2Checks());
+int aaCertify2(RunContext& run) {
+  return aaCertify2With(run, standardCertify2Checks());
 }
 
-int aaCertify2With(const std::string& fileName, const Certify2Checks& checks) {
-  RunState& rs = runState();
-  setBusy(true);
+int aaCertify2With(RunContext& run, const Certify2Checks& checks) {
+  setBusy(run, true);
   Fault fault;
   try {
-    switch (runChecks(fileName, checks)) {
+    switch (runChecks(run, checks)) {
       case Next::Go:
-        setBusy(false);
+        setBusy(run, false);
         return RUN_COMPLETED;
       case Next::Stop:
         // The run driver restores the pointer after a stopped run.
         return RUN_COMPLETED;
       case Next::Cancel:
-        setBusy(false);
+        setBusy(run, false);
         return RUN_STOPPED;
       case Next::Fail:
         break;
@@ -224,13 +211,13 @@ int aaCertify2With(const std::string& fileName, const Certify2Checks& checks) {
   }
 
   // Error path: an Escape still pending turns the fault into a cancel.
-  if (rs.escapePressed) {
-    setBusy(false);
+  if (run.observer != nullptr && run.observer->cancelRequested()) {
+    setBusy(run, false);
     return RUN_STOPPED;
   }
-  writeCommandLog(fault.number == 0 ? std::string("Error: Error in aaCertify2:")
-                                    : handlerMessage("aaCertify2", fault));
-  setBusy(false);
+  run.log(fault.number == 0 ? std::string("Error: Error in aaCertify2:")
+                            : handlerMessage("aaCertify2", fault));
+  setBusy(run, false);
   return RUN_FAULT;
 }
 

@@ -1,6 +1,6 @@
 // The check driver for LAS 1.2 and 2.0 files: runs groups 2-7 of the 1.2/2.0 catalogue in order,
-// records each group's findings in runState().table2, shows progress, lets the user cancel
-// between checks and stops after the first group that recorded a finding.
+// records each group's findings in the run's 1.2/2.0 table, shows its observer the progress, lets
+// the user cancel between checks and stops after the first group that recorded a finding.
 //
 // Never throws: faults inside the checks end the run with RUN_FAULT and a command log entry; the
 // table then keeps what was recorded before the fault.
@@ -14,22 +14,24 @@
 
 namespace zorvik {
 
-// Runs groups 2-7 on `fileName`: RUN_COMPLETED (all run, or stopped after a failing group),
+struct RunContext;
+
+// Runs groups 2-7 on the run's LAS file: RUN_COMPLETED (all run, or stopped after a failing group),
 // RUN_STOPPED (the user cancelled) or RUN_FAULT (a fault ended the run).
-int aaCertify2(const std::string& fileName);
+int aaCertify2(RunContext& run);
 
 // The check procedures the driver calls, one per group. Tests replace some of them to drive the
 // run through states that real files reach only rarely.
 struct Certify2Checks {
-  int (*versionSection)(const ParamTable& versionTable, std::string& wrapValue, Slots& slots);
-  int (*sectionStructure)(const std::string& fileName, Slots& slots);
-  int (*lineSyntax)(const std::string& fileName, const std::string& wrapValue,
-                    const ParamTable& curveTable, Slots& slots, int& linesPerRecord, int& channels);
+  int (*versionSection)(RunContext& run, const ParamTable& versionTable, std::string& wrapValue,
+                        Slots& slots);
+  int (*sectionStructure)(RunContext& run, Slots& slots);
+  int (*lineSyntax)(RunContext& run, const std::string& wrapValue, const ParamTable& curveTable,
+                    Slots& slots, int& linesPerRecord, int& channels);
   int (*wellMnemonics)(const ParamTable& wellTable, CheckTable& table, Slots& slots);
-  int (*indexRange)(const std::string& fileName, const WellRange& well,
-                    const std::string& wrapValue, const ParamTable& wellTable,
-                    const ParamTable& curveTable, Slots& slots);
-  int (*asciiSection)(const std::string& fileName, const std::string& wrapValue, int linesPerRecord,
+  int (*indexRange)(RunContext& run, const WellRange& well, const std::string& wrapValue,
+                    const ParamTable& wellTable, const ParamTable& curveTable, Slots& slots);
+  int (*asciiSection)(RunContext& run, const std::string& wrapValue, int linesPerRecord,
                       int channels, const ParamTable& curveTable, Slots& slots);
 };
 
@@ -37,6 +39,6 @@ struct Certify2Checks {
 Certify2Checks standardCertify2Checks();
 
 // aaCertify2 with the given check procedures.
-int aaCertify2With(const std::string& fileName, const Certify2Checks& checks);
+int aaCertify2With(RunContext& run, const Certify2Checks& checks);
 
 }  // namespace zorvik

@@ -6,7 +6,7 @@
 #include "cert2/ascii_checks.h"
 #include "checks/data_lines.h"
 #include "checks/data_scan.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "checks/wrap_layout.h"
 #include "las/line_reader.h"
 #include "las/lines.h"
@@ -74,16 +74,16 @@ void judgeDataLines(LineReader& file, bool tabDelimited, Slots& slots, DataWalks
   if (resume != 0) file.seek(resume);
 }
 
-void judgeHeaderLine(std::string_view line, bool tabDelimited, Slots& slots) {
+void judgeHeaderLine(std::string_view line, const Dialect& dialect, bool tabDelimited,
+                     Slots& slots) {
   switch (classifyHeaderLine(line)) {
     case LINE_OK:
-      if (!isValidMnemonic(fieldMnemonic(line), runState().dialect))
+      if (!isValidMnemonic(fieldMnemonic(line), dialect))
         addFinding(slots[1], "Illegal mnemonic: ", line);
-      if (!isLegalUnitText(fieldUnit(line), runState().dialect))
-        addFinding(slots[2], "Illegal Unit: ", line);
-      if (!isLegalValueText(fieldValue(line), runState().dialect))
+      if (!isLegalUnitText(fieldUnit(line), dialect)) addFinding(slots[2], "Illegal Unit: ", line);
+      if (!isLegalValueText(fieldValue(line), dialect))
         addFinding(slots[3], "Illegal Value: ", line);
-      if (!isLegalDescriptionText(fieldDescription(line), runState().dialect))
+      if (!isLegalDescriptionText(fieldDescription(line), dialect))
         addFinding(slots[4], "Illegal Description: ", line);
       if (!tabDelimited && hasTab(line)) addFinding(slots[4], "Tab character(s) found.", line);
       break;
@@ -106,11 +106,11 @@ void judgeHeaderLine(std::string_view line, bool tabDelimited, Slots& slots) {
 
 // Reads on from wherever the previous section stopped, up to and including the next title line.
 // Each section's turn therefore judges the lines after the title at which the last one stopped.
-void judgeHeaderLines(LineReader& file, bool tabDelimited, Slots& slots) {
+void judgeHeaderLines(LineReader& file, const Dialect& dialect, bool tabDelimited, Slots& slots) {
   std::string_view line;
   while (file.readLine(line)) {
     if (isTitleLine(line)) break;
-    judgeHeaderLine(line, tabDelimited, slots);
+    judgeHeaderLine(line, dialect, tabDelimited, slots);
   }
 }
 
@@ -129,33 +129,32 @@ std::string wrapMessage(int structure, const std::string& wrapValue) {
 
 // The one data section whose walks groups 6 and 7 would make (several data sections, or one
 // group 6 would not find by its name, are left to their own reading); null when none.
-const SectionEntry* walkedDataSection(const std::string& fileName) {
+const SectionEntry* walkedDataSection(RunContext& run) {
   const SectionEntry* data = nullptr;
-  for (const SectionEntry& section : runState().sections.entries) {
+  for (const SectionEntry& section : run.sections.entries) {
     if (section.role != ROLE_DATA) continue;
     if (data != nullptr) return nullptr;
     data = &section;
   }
-  if (data == nullptr || data->start != firstDataLinePosition(fileName)) return nullptr;
+  if (data == nullptr || data->start != firstDataLinePosition(run)) return nullptr;
   return data;
 }
 
 }  // namespace
 
-int checkLineSyntax(const std::string& fileName, const std::string& wrapValue,
-                    const ParamTable& curveTable, Slots& slots, int& linesPerRecord,
-                    int& channels) {
+int checkLineSyntax(RunContext& run, const std::string& wrapValue, const ParamTable& curveTable,
+                    Slots& slots, int& linesPerRecord, int& channels) {
+  const std::string& fileName = run.lasFile;
   for (int k = 1; k <= 7; ++k) slots[k].clear();
-  RunState& state = runState();
-  state.dataScan = {};
-  char delimiter = dataDelimiterChar();
+  run.dataScan = {};
+  char delimiter = run.dialect.delimiterChar();
   bool tabDelimited = delimiter == '\t';
 
   int perRecord = 0;
   int bufferLength = 0;
   int perRecordChannels = 0;
   int structure =
-      analyseWrap(fileName, perRecord, bufferLength, perRecordChannels, curveTable.lastEntry());
+      analyseWrap(run, perRecord, bufferLength, perRecordChannels, curveTable.lastEntry());
   linesPerRecord = 1;
   channels = 0;
   if (structure == WRAP_UNWRAPPED || structure == WRAP_WRAPPED) {
@@ -165,8 +164,8 @@ int checkLineSyntax(const std::string& fileName, const std::string& wrapValue,
 
   LineReader file;
   if (!file.open(fileName)) return CHECK_FAULT;
-  const SectionEntry* walked = walkedDataSection(fileName);
-  for (const SectionEntry& section : state.sections.entries) {
+  const SectionEntry* walked = walkedDataSection(run);
+  for (const SectionEntry& section : run.sections.entries) {
     if (section.role == ROLE_DATA) {
       file.seek(section.start);
       if (&section != walked) {
@@ -174,9 +173,9 @@ int checkLineSyntax(const std::string& fileName, const std::string& wrapValue,
         continue;
       }
       std::string definitionName;
-      RecordRules rules =
-          asciiRecordRules(wrapValue, linesPerRecord,
-                           dataChannelDefinitions(fileName, section, curveTable, definitionName));
+      RecordRules rules = asciiRecordRules(
+          wrapValue, linesPerRecord,
+          dataChannelDefinitions(run, section, curveTable, definitionName), run.doWrap);
       DataWalks walks{IncrementWalk(perRecord, delimiter), RecordWalk(rules)};
       judgeDataLines(file, tabDelimited, slots, &walks);
       DataScan scan;
@@ -186,16 +185,15 @@ int checkLineSyntax(const std::string& fileName, const std::string& wrapValue,
       scan.rules = rules;
       scan.incrementAnswer = walks.increments.finish(scan.increments);
       walks.records.finish(fileName, scan.countFinding, scan.lengthFinding);
-      state.dataScan = std::move(scan);
+      run.dataScan = std::move(scan);
     } else if (section.role != ROLE_OTHER) {
-      judgeHeaderLines(file, tabDelimited, slots);
+      judgeHeaderLines(file, run.dialect, tabDelimited, slots);
     }
   }
   std::int64_t length = file.length();
   file.close();
 
-  if (noDataAt(firstDataLinePosition(fileName), length))
-    slots[6] = "No data lines in ASCII section";
+  if (noDataAt(firstDataLinePosition(run), length)) slots[6] = "No data lines in ASCII section";
   slots[7] = wrapMessage(structure, wrapValue);
 
   for (int k = 1; k <= 7; ++k)

@@ -7,7 +7,7 @@
 
 #include "base/text.h"
 #include "cert3/section_lines.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
 #include "las/v3_line.h"
@@ -66,15 +66,15 @@ struct ArrayGroup {
   std::string unit;
 };
 
-std::vector<Element> definitionLines(LineReader& reader, const SectionEntry& section) {
+std::vector<Element> definitionLines(RunContext& run, LineReader& reader,
+                                     const SectionEntry& section) {
   std::vector<Element> lines;
   V3LineDiagnostics diagnostics;
   std::string name = section.name;
   std::string_view line;
   reader.seek(section.start);
   while (readSectionLine(reader, line)) {
-    if (parseV3Line(line, name, runState().dialect, runState().sections, diagnostics) != V3_PDL)
-      continue;
+    if (parseV3Line(line, name, run.dialect, run.sections, diagnostics) != V3_PDL) continue;
     Element e;
     e.mnemonic = fieldMnemonic(line);
     e.unit = fieldUnit(line);
@@ -150,17 +150,18 @@ bool checkSection(const std::vector<Element>& lines, Slots& slots) {
 
 }  // namespace
 
-int checkArrayChannels(const std::string& fileName, Slots& slots) {
+int checkArrayChannels(RunContext& run, Slots& slots) {
   slots[1].clear();
   // Items 2 to 5 stay undecided (as the driver preset them) only when every section that has
   // arrays could not be tested for them.
   bool skipped = false;
   try {
     LineReader reader;
-    if (reader.open(fileName)) {
+    if (reader.open(run.lasFile)) {
       // Findings of every definition section are kept, one section after the other.
-      for (const SectionEntry& entry : runState().sections.entries) {
-        if (entry.role == ROLE_DEFINITION && !checkSection(definitionLines(reader, entry), slots))
+      for (const SectionEntry& entry : run.sections.entries) {
+        if (entry.role == ROLE_DEFINITION &&
+            !checkSection(definitionLines(run, reader, entry), slots))
           skipped = true;
       }
     }

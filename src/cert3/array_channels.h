@@ -10,12 +10,14 @@
 
 namespace zorvik {
 
+struct RunContext;
+
 // Fills slots 1-5. A section with an array element lacking "[n]" is not tested for items 2-5; when
 // no section was, those keep the preset they came with (a single blank: undecided).
 // Returns CHECK_FAILED when any of them holds text, CHECK_PASSED otherwise,
 // CHECK_FAULT when an internal fault ended it (slots then hold what was found so far). A file
 // that cannot be opened has no lines, so nothing is found in it.
-int checkArrayChannels(const std::string& fileName, Slots& slots);
+int checkArrayChannels(RunContext& run, Slots& slots);
 
 // The helpers below cannot fail.
 //

@@ -7,20 +7,20 @@
 #include "base/text.h"
 #include "cert3/mnemonic_table.h"
 #include "cert3/section_lines.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
 #include "las/v3_line.h"
 
 namespace zorvik {
 
-MnemonicTable buildMnemonicTable(const std::string& fileName) {
+MnemonicTable buildMnemonicTable(RunContext& run) {
   MnemonicTable table;
   LineReader reader;
-  if (!reader.open(fileName)) return table;
+  if (!reader.open(run.lasFile)) return table;
   V3LineDiagnostics diagnostics;
   std::string_view line;
-  for (const SectionEntry& entry : runState().sections.entries) {
+  for (const SectionEntry& entry : run.sections.entries) {
     // Column data lines carry no mnemonics; skipping them keeps the table to the header lines.
     if (entry.role == ROLE_DATA) continue;
     reader.seek(entry.start);
@@ -28,26 +28,24 @@ MnemonicTable buildMnemonicTable(const std::string& fileName) {
     while (readSectionLine(reader, line)) {
       // The table holds every line the 3.0 parser reads as a parameter line: header, parameter
       // and definition lines alike.
-      if (parseV3Line(line, section, runState().dialect, runState().sections, diagnostics) !=
-          V3_PDL)
-        continue;
+      if (parseV3Line(line, section, run.dialect, run.sections, diagnostics) != V3_PDL) continue;
       MnemonicRow row;
       row.mnemonic = fieldMnemonic(line);
       row.unit = fieldUnit(line);
       row.value = fieldValue(line);
       row.description = fieldDescription(line);
-      row.association = fieldAssociation(line, runState().dialect.delimiter, row.entries);
+      row.association = fieldAssociation(line, run.dialect.delimiter, row.entries);
       table.add(std::move(row));
     }
   }
   return table;
 }
 
-int checkAssociations(const std::string& fileName, Slots& slots) {
+int checkAssociations(RunContext& run, Slots& slots) {
   slots[1].clear();
   slots[2].clear();
   try {
-    MnemonicTable table = buildMnemonicTable(fileName);
+    MnemonicTable table = buildMnemonicTable(run);
     for (int r = 1; r <= table.size(); ++r) {
       const MnemonicRow& row = table.row(r);
       if (row.association.empty()) continue;

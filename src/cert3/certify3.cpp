@@ -3,7 +3,6 @@
 #include <cmath>
 #include <initializer_list>
 
-#include "base/command_log.h"
 #include "base/fault.h"
 #include "base/text.h"
 #include "cert3/array_channels.h"
@@ -14,11 +13,11 @@
 #include "checks/catalogue.h"
 #include "checks/file_value.h"
 #include "checks/index_range.h"
-#include "checks/run_state.h"
+#include "checks/null_stop_repair.h"
+#include "checks/run_context.h"
 #include "checks/section_structure.h"
 #include "checks/title_lines.h"
 #include "checks/version_checks.h"
-#include "checks/window_ops.h"
 #include "las/header_line.h"
 #include "las/sections.h"
 
@@ -39,12 +38,12 @@ struct HeaderTables {
   ParamTable parameter;
 };
 
-void setBusy(bool busy) {
-  if (WindowOps* w = runState().window) w->setBusyPointer(busy);
+void setBusy(const RunContext& run, bool busy) {
+  if (run.observer != nullptr) run.observer->setBusyPointer(busy);
 }
 
-void letEventsRun() {
-  if (WindowOps* w = runState().window) w->processEvents();
+void letEventsRun(const RunContext& run) {
+  if (run.observer != nullptr) run.observer->processEvents();
 }
 
 // Every cell of the table but those of group 1, which the run driver fills before this driver
@@ -58,10 +57,10 @@ void clearAllButGroup1(CheckTable& table) {
 }
 
 // The delimiter that the ~Version section's DLM word stands for; an unknown word reads as a space.
-void storeDataDelimiter(const std::string& fileName) {
-  const std::string word = lookupFileValue(fileName, "DLM", "Version");
+void storeDataDelimiter(RunContext& run) {
+  const std::string word = lookupFileValue(run, "DLM", "Version");
   const std::string delimiter = delimiterForWord(word);
-  runState().dialect.delimiter = delimiter.empty() ? " " : delimiter;
+  run.dialect.delimiter = delimiter.empty() ? " " : delimiter;
 }
 
 void presetSlots(Slots& slots, std::initializer_list<int> undecided) {
@@ -69,61 +68,54 @@ void presetSlots(Slots& slots, std::initializer_list<int> undecided) {
   for (int k : undecided) slots[k] = " ";
 }
 
-void showProgress(int group) {
-  RunState& rs = runState();
-  if (!rs.window) return;
+void showProgress(const RunContext& run, int group) {
+  if (run.observer == nullptr) return;
   const int percent =
-      static_cast<int>(std::lround(group * 100.0 / static_cast<double>(rs.table3.lastGroup())));
-  rs.window->setProgress(percent, "Doing check " + toText(group) + " (Press ESC to cancel...)");
-  rs.window->processEvents();
+      static_cast<int>(std::lround(group * 100.0 / static_cast<double>(run.table3.lastGroup())));
+  run.observer->setProgress(percent, "Doing check " + toText(group) + " (Press ESC to cancel...)");
+  run.observer->processEvents();
 }
 
-// Asks whether to cancel when Escape was pressed; throws CancelRequested on Yes (the Escape flag
-// stays set, which is how the trap tells a cancel from a fault).
-void pollEscape() {
-  RunState& rs = runState();
-  letEventsRun();
-  if (!rs.escapePressed) return;
-  // Without a window there is no one to ask: the press is ignored like a suppressed question.
-  if (!rs.suppressCancelQuestion && rs.window &&
-      rs.window->askYesNo("Please Confirm!",
-                          "Do you want to cancel the certification in progress?"))
+// Asks whether to cancel when Escape was pressed; throws CancelRequested on Yes (the request
+// stays standing, which is how the trap tells a cancel from a fault).
+void pollEscape(const RunContext& run) {
+  RunObserver* observer = run.observer;
+  if (observer == nullptr) return;
+  observer->processEvents();
+  if (!observer->cancelRequested()) return;
+  if (observer->askYesNo("Please Confirm!", "Do you want to cancel the certification in progress?"))
     throw CancelRequested{};
-  rs.escapePressed = false;
+  observer->clearCancelRequest();
 }
 
 // Progress, display marks, record, stop test, then the cancel question; in this order.
-Next afterCheck(int group, int code, const Slots& slots) {
-  RunState& rs = runState();
-  CheckTable& table = rs.table3;
-  showProgress(group);
+Next afterCheck(RunContext& run, int group, int code, const Slots& slots) {
+  CheckTable& table = run.table3;
+  showProgress(run, group);
   for (int r = 1; r <= table.lastRow(); ++r) table.at(r, COL_MARK, group) = " ";
   if (code == CHECK_FAILED || code == CHECK_FAULT) storeGroupResults(table, group, slots);
   if (code == CHECK_FAULT) throw FaultError(Fault{});
   // Group 0 (the title line pass) never stops the run, whatever group 1 holds.
   if (group > 0 && anyFailure(table)) return Next::Stop;
-  pollEscape();
+  pollEscape(run);
   return Next::Continue;
 }
 
-void readHeaderTables(const std::string& fileName, HeaderTables& tables) {
-  const RunState& rs = runState();
-  parseSectionTable(fileName, runState().dialect, runState().sections, tables.version, "Version");
-  parseSectionTable(fileName, runState().dialect, runState().sections, tables.well, "Well");
-  if (!rs.sections.curveName.empty())
-    parseSectionTable(fileName, runState().dialect, runState().sections, tables.curve,
-                      rs.sections.curveName);
-  if (!rs.sections.paramName.empty())
-    parseSectionTable(fileName, runState().dialect, runState().sections, tables.parameter,
-                      rs.sections.paramName);
+void readHeaderTables(RunContext& run, HeaderTables& tables) {
+  const std::string& file = run.lasFile;
+  parseSectionTable(file, run.dialect, run.sections, tables.version, "Version");
+  parseSectionTable(file, run.dialect, run.sections, tables.well, "Well");
+  if (!run.sections.curveName.empty())
+    parseSectionTable(file, run.dialect, run.sections, tables.curve, run.sections.curveName);
+  if (!run.sections.paramName.empty())
+    parseSectionTable(file, run.dialect, run.sections, tables.parameter, run.sections.paramName);
 }
 
 // The catalogue names the data section and the country in some of its titles.
-void layOutCatalogueForFile(const HeaderTables& tables) {
-  RunState& rs = runState();
-  rs.dataSectionTitle = rs.sections.dataName.empty() ? "" : "~" + rs.sections.dataName;
-  rs.countryCode = trim(mnemonicValue(tables.well, "CTRY"));
-  layOutCatalogue();
+void layOutCatalogueForFile(RunContext& run, const HeaderTables& tables) {
+  run.dataSectionTitle = run.sections.dataName.empty() ? "" : "~" + run.sections.dataName;
+  run.countryCode = trim(mnemonicValue(tables.well, "CTRY"));
+  layOutCatalogue(run);
 }
 
 WellRange wellRangeOf(const ParamTable& well) {
@@ -132,72 +124,71 @@ WellRange wellRangeOf(const ParamTable& well) {
 }
 
 // Runs the groups in order; returns when the run ends normally or a stop test ends it.
-void runGroups(const std::string& fileName) {
-  RunState& rs = runState();
+void runGroups(RunContext& run) {
+  const std::string& fileName = run.lasFile;
   Slots slots;
 
   presetSlots(slots, {});
   int code = checkTitleLines3(fileName, slots[7]);
-  if (afterCheck(0, code, slots) == Next::Stop) return;
+  if (afterCheck(run, 0, code, slots) == Next::Stop) return;
 
-  storeDataDelimiter(fileName);
-  locateStandardSections(fileName, runState().dialect, runState().sections);
+  storeDataDelimiter(run);
+  locateStandardSections(fileName, run.dialect, run.sections);
   HeaderTables tables;
-  readHeaderTables(fileName, tables);
-  layOutCatalogueForFile(tables);
+  readHeaderTables(run, tables);
+  layOutCatalogueForFile(run, tables);
 
   presetSlots(slots, {1, 2, 3, 4, 5, 6, 7, 8, 9});
   std::string wrapValue;
-  code = checkVersionSection(tables.version, wrapValue, slots);
-  if (afterCheck(2, code, slots) == Next::Stop) return;
-  storeDataDelimiter(fileName);  // the later checks see the delimiter as group 2 left it
+  code = checkVersionSection(run, tables.version, wrapValue, slots);
+  if (afterCheck(run, 2, code, slots) == Next::Stop) return;
+  storeDataDelimiter(run);  // the later checks see the delimiter as group 2 left it
 
   presetSlots(slots, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15});
-  code = checkSectionStructure(fileName, slots);
-  if (afterCheck(3, code, slots) == Next::Stop) return;
+  code = checkSectionStructure(run, slots);
+  if (afterCheck(run, 3, code, slots) == Next::Stop) return;
 
   presetSlots(slots, {1, 2, 3, 5, 6, 7, 8, 9, 10, 11});  // descriptions never fail
-  code = checkLineStructure3(fileName, slots);
-  if (afterCheck(4, code, slots) == Next::Stop) return;
+  code = checkLineStructure3(run, slots);
+  if (afterCheck(run, 4, code, slots) == Next::Stop) return;
 
   presetSlots(slots, {1, 2, 3, 4, 5, 6});
-  code = checkWellSection3(fileName, tables.well, slots);
+  code = checkWellSection3(run, tables.well, slots);
   const WellRange range = wellRangeOf(tables.well);
-  if (afterCheck(5, code, slots) == Next::Stop) return;
+  if (afterCheck(run, 5, code, slots) == Next::Stop) return;
 
   presetSlots(slots, {1, 2, 3, 4, 5, 6, 7});
-  rs.nullStopRepaired = false;
-  code = rs.sections.standardFound
-             ? checkIndexRange(fileName, range, wrapValue, tables.well, tables.curve, slots)
+  run.nullStopRepaired = false;
+  code = run.sections.standardFound
+             ? checkIndexRangeRepairing(run, range, wrapValue, tables.well, tables.curve, slots)
              : CHECK_PASSED;
-  if (afterCheck(6, code, slots) == Next::Stop) return;
+  if (afterCheck(run, 6, code, slots) == Next::Stop) return;
 
   presetSlots(slots, {1, 2, 3});
-  code = checkColumnData(fileName, slots);
-  if (afterCheck(7, code, slots) == Next::Stop) return;
+  code = checkColumnData(run, slots);
+  if (afterCheck(run, 7, code, slots) == Next::Stop) return;
 
   presetSlots(slots, {1, 2});
-  code = checkAssociations(fileName, slots);
-  if (afterCheck(8, code, slots) == Next::Stop) return;
+  code = checkAssociations(run, slots);
+  if (afterCheck(run, 8, code, slots) == Next::Stop) return;
 
   presetSlots(slots, {1, 2, 3, 4, 5});
-  code = checkArrayChannels(fileName, slots);
-  if (afterCheck(9, code, slots) == Next::Stop) return;
+  code = checkArrayChannels(run, slots);
+  if (afterCheck(run, 9, code, slots) == Next::Stop) return;
 
-  letEventsRun();
+  letEventsRun(run);
 }
 
 }  // namespace
 
-int aaCertify3(const std::string& fileName) {
-  RunState& rs = runState();
+int aaCertify3(RunContext& run) {
   int result = RUN_COMPLETED;
-  setBusy(true);
+  setBusy(run, true);
   try {
-    clearAllButGroup1(rs.table3);
-    runGroups(fileName);
+    clearAllButGroup1(run.table3);
+    runGroups(run);
   } catch (...) {
-    if (rs.escapePressed) {
+    if (run.observer != nullptr && run.observer->cancelRequested()) {
       result = RUN_STOPPED;
     } else {
       result = RUN_FAULT;
@@ -210,10 +201,10 @@ int aaCertify3(const std::string& fileName) {
       } catch (...) {
         fault = currentFault();
       }
-      writeCommandLog(handlerMessage("aaCertify3", fault));
+      run.log(handlerMessage("aaCertify3", fault));
     }
   }
-  setBusy(false);
+  setBusy(run, false);
   return result;
 }
 

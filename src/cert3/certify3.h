@@ -5,7 +5,10 @@
 
 namespace zorvik {
 
-// Runs groups 0 and 2-9 of the 3.0 catalogue: -1 completed, 1 cancelled, 0 fault.
-int aaCertify3(const std::string& fileName);
+struct RunContext;
+
+// Runs groups 0 and 2-9 of the 3.0 catalogue on the run's LAS file, recording into its 3.0
+// table: -1 completed, 1 cancelled, 0 fault.
+int aaCertify3(RunContext& run);
 
 }  // namespace zorvik

@@ -10,7 +10,7 @@
 #include "cert3/finding_budget.h"
 #include "cert3/item_format.h"
 #include "cert3/section_lines.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
 #include "las/sections.h"
@@ -21,14 +21,12 @@ namespace {
 
 class ColumnDataCheck {
  public:
-  ColumnDataCheck(const std::string& fileName, Slots& slots) : fileName_(fileName), slots_(slots) {
-    const std::string& d = runState().dialect.delimiter;
-    delimiter_ = d.empty() ? ' ' : d.front();
-  }
+  ColumnDataCheck(RunContext& run, Slots& slots)
+      : run_(run), slots_(slots), delimiter_(run.dialect.delimiterChar()) {}
 
   void run() {
-    if (!reader_.open(fileName_)) return;
-    for (const SectionEntry& entry : runState().sections.entries) {
+    if (!reader_.open(run_.lasFile)) return;
+    for (const SectionEntry& entry : run_.sections.entries) {
       if (entry.role == ROLE_DATA) checkSection(entry);
     }
     budget2_.closeInto(slots_[2]);
@@ -37,11 +35,10 @@ class ColumnDataCheck {
 
  private:
   void checkSection(const SectionEntry& data) {
-    std::string definitionName = definitionSectionFor(data);
+    std::string definitionName = definitionSectionFor(run_.sections, data);
     ParamTable definitions;
     if (!definitionName.empty())
-      parseSectionTable(fileName_, runState().dialect, runState().sections, definitions,
-                        definitionName);
+      parseSectionTable(run_.lasFile, run_.dialect, run_.sections, definitions, definitionName);
     const int channels = definitions.lastEntry();
     formats_.clear();
     for (int k = 1; k <= channels; ++k) {
@@ -88,7 +85,7 @@ class ColumnDataCheck {
   void checkFormats(const std::string& dataName) {
     std::size_t n = std::min(items_.size(), formats_.size());
     for (std::size_t k = 0; k < n; ++k) {
-      if (itemFitsFormat(items_[k], formats_[k])) continue;
+      if (itemFitsFormat(items_[k], formats_[k], run_.dialect.delimiter)) continue;
       const ItemFormat& f = formats_[k];
       // The line is placed by its index value, the depth or time a user looks for.
       std::string_view place = items_[0];
@@ -124,7 +121,7 @@ class ColumnDataCheck {
     slot += kLineBreak;
   }
 
-  const std::string& fileName_;
+  RunContext& run_;
   Slots& slots_;
   char delimiter_ = ' ';
   LineReader reader_;
@@ -136,29 +133,27 @@ class ColumnDataCheck {
 
 }  // namespace
 
-std::string definitionSectionFor(const SectionEntry& dataSection) {
+std::string definitionSectionFor(const SectionIndex& sections, const SectionEntry& dataSection) {
   std::string named = trim(dataSection.association);
   if (!named.empty()) return named;
-  const RunState& state = runState();
   std::size_t underscore = dataSection.name.find('_');
   if (underscore != std::string::npos) {
     std::string_view prefix = trimView(std::string_view(dataSection.name).substr(0, underscore));
-    for (const SectionGroup& group : state.sections.groups) {
+    for (const SectionGroup& group : sections.groups) {
       if (!iequals(group.prefix, prefix) || group.definition <= 0) continue;
       std::size_t number = static_cast<std::size_t>(group.definition);
-      if (number <= state.sections.entries.size()) return state.sections.entries[number - 1].name;
+      if (number <= sections.entries.size()) return sections.entries[number - 1].name;
     }
   }
   int arrayIndex = -1;
-  if (iequals(splitArrayIndex(dataSection.name, arrayIndex), "ASCII"))
-    return state.sections.curveName;
+  if (iequals(splitArrayIndex(dataSection.name, arrayIndex), "ASCII")) return sections.curveName;
   return {};
 }
 
-int checkColumnData(const std::string& fileName, Slots& slots) {
+int checkColumnData(RunContext& run, Slots& slots) {
   for (int k = 1; k <= 3; ++k) slots[k].clear();
   try {
-    ColumnDataCheck(fileName, slots).run();
+    ColumnDataCheck(run, slots).run();
   } catch (const std::exception&) {
     return CHECK_FAULT;
   }

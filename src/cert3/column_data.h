@@ -13,14 +13,16 @@
 
 namespace zorvik {
 
+struct RunContext;
+
 // Fills slots 1-3. Returns CHECK_FAILED when any of them holds text, CHECK_PASSED otherwise,
 // CHECK_FAULT when an internal fault ended it (slots then hold what was found so far). A file
 // that cannot be opened has no data lines.
-int checkColumnData(const std::string& fileName, Slots& slots);
+int checkColumnData(RunContext& run, Slots& slots);
 
 // Name of the definition section whose channels the data section's items follow: the section
 // its title names after "|", else the definition section of its set ("Log" of "Log_Data"), else
 // for the ~ASCII section the file's curve section; "" when there is none. Cannot fail.
-std::string definitionSectionFor(const SectionEntry& dataSection);
+std::string definitionSectionFor(const SectionIndex& sections, const SectionEntry& dataSection);
 
 }  // namespace zorvik

@@ -1,6 +1,6 @@
 #include "cert3/item_format.h"
 
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "las/value_format.h"
 
 namespace zorvik {
@@ -45,8 +45,9 @@ ItemFormat parseItemFormat(std::string_view format) {
   return f;
 }
 
-bool itemFitsFormatFully(std::string_view item, const ItemFormat& format) {
-  return valueMatchesFormat(item, format.text, runState().dialect.delimiter) == -1;
+bool itemFitsFormatFully(std::string_view item, const ItemFormat& format,
+                         std::string_view delimiter) {
+  return valueMatchesFormat(item, format.text, delimiter) == -1;
 }
 
 }  // namespace zorvik

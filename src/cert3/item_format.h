@@ -29,8 +29,10 @@ struct ItemFormat {
 
 ItemFormat parseItemFormat(std::string_view format);
 
-// The full value format test (allocates; for the items the quick scan leaves open).
-bool itemFitsFormatFully(std::string_view item, const ItemFormat& format);
+// The full value format test (allocates; for the items the quick scan leaves open) for data
+// delimited by `delimiter`.
+bool itemFitsFormatFully(std::string_view item, const ItemFormat& format,
+                         std::string_view delimiter);
 
 namespace item_scan {
 
@@ -88,8 +90,9 @@ inline bool quickAccepts(std::string_view item, const ItemFormat& f) {
 }  // namespace item_scan
 
 // True when the item conforms to the format (an empty or blank item always does).
-inline bool itemFitsFormat(std::string_view item, const ItemFormat& format) {
-  return item_scan::quickAccepts(item, format) || itemFitsFormatFully(item, format);
+inline bool itemFitsFormat(std::string_view item, const ItemFormat& format,
+                           std::string_view delimiter) {
+  return item_scan::quickAccepts(item, format) || itemFitsFormatFully(item, format, delimiter);
 }
 
 }  // namespace zorvik

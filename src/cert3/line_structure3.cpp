@@ -7,7 +7,7 @@
 #include "base/text.h"
 #include "cert3/finding_budget.h"
 #include "cert3/section_lines.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "las/line_reader.h"
 #include "las/lines.h"
 #include "las/sections.h"
@@ -39,14 +39,13 @@ struct DataSectionScan {
 
 class LineStructureCheck {
  public:
-  explicit LineStructureCheck(Slots& slots) : slots_(slots) {}
+  LineStructureCheck(RunContext& run, Slots& slots) : run_(run), slots_(slots) {}
 
-  void run(const std::string& fileName) {
+  void run() {
     LineReader reader;
-    if (!reader.open(fileName)) return;
-    const auto& index = runState().sections.entries;
-    const std::string& delimiterText = runState().dialect.delimiter;
-    delimiter_ = delimiterText.empty() ? ' ' : delimiterText.front();
+    if (!reader.open(run_.lasFile)) return;
+    const auto& index = run_.sections.entries;
+    delimiter_ = run_.dialect.delimiterChar();
     std::size_t cursor = 0;
     std::string section;
     std::string_view line;
@@ -75,7 +74,7 @@ class LineStructureCheck {
 
  private:
   void fileParserFindings(std::string_view line, std::string& section) {
-    parseV3Line(line, section, runState().dialect, runState().sections, diagnostics_);
+    parseV3Line(line, section, run_.dialect, run_.sections, diagnostics_);
     for (int k = 1; k <= 10; ++k) {
       if (k == 4 || diagnostics_[k].empty()) continue;
       std::string_view label = k < 4 ? kLabels[k] : std::string_view();
@@ -132,6 +131,7 @@ class LineStructureCheck {
     scan_ = DataSectionScan{};
   }
 
+  RunContext& run_;
   Slots& slots_;
   char delimiter_ = ' ';
   V3LineDiagnostics diagnostics_;
@@ -142,10 +142,10 @@ class LineStructureCheck {
 
 }  // namespace
 
-int checkLineStructure3(const std::string& fileName, Slots& slots) {
+int checkLineStructure3(RunContext& run, Slots& slots) {
   for (int k : kItems) slots[k].clear();
   try {
-    LineStructureCheck(slots).run(fileName);
+    LineStructureCheck(run, slots).run();
   } catch (const std::exception&) {
     return CHECK_FAULT;
   }

@@ -4,7 +4,7 @@
 #include <initializer_list>
 
 #include "base/text.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "las/lines.h"
 #include "las/sections.h"
 
@@ -42,10 +42,10 @@ std::string missingLocation(const ParamTable& table, const std::string_view (&li
 
 // The line of `mnemonic` in section `section` as written; rebuilt from the table's fields when the
 // section text cannot give it.
-std::string lineAsWritten(const std::string& fileName, std::string_view section,
-                          const ParamTable& table, int entry) {
+std::string lineAsWritten(RunContext& run, std::string_view section, const ParamTable& table,
+                          int entry) {
   const std::string_view mnemonic = table.at(FIELD_MNEMONIC, entry);
-  const std::string text = sectionText(fileName, runState().dialect, runState().sections, section);
+  const std::string text = sectionText(run.lasFile, run.dialect, run.sections, section);
   std::size_t begin = 0;
   while (begin < text.size()) {
     std::size_t end = text.find('\r', begin);
@@ -60,7 +60,7 @@ std::string lineAsWritten(const std::string& fileName, std::string_view section,
          table.at(FIELD_VALUE, entry) + " : " + table.at(FIELD_DESCRIPTION, entry);
 }
 
-void countryChecks(const std::string& fileName, const ParamTable& well, int ctry, Slots& slots) {
+void countryChecks(RunContext& run, const ParamTable& well, int ctry, Slots& slots) {
   const std::string value = trim(well.at(FIELD_VALUE, ctry));
   slots[3].clear();
   slots[4].clear();
@@ -69,7 +69,7 @@ void countryChecks(const std::string& fileName, const ParamTable& well, int ctry
   const bool badLetters =
       value.size() >= 2 && (!isAsciiLetter(value[0]) || !isAsciiLetter(value[1]));
   if (badLength || badLetters) {
-    const std::string line = lineAsWritten(fileName, "Well", well, ctry);
+    const std::string line = lineAsWritten(run, "Well", well, ctry);
     if (badLength) slots[3].append(line).append(CRLF);
     if (badLetters) slots[4].append(line).append(CRLF);
   }
@@ -98,7 +98,7 @@ bool isAsciiLetter(char c) {
   return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
-int checkWellSection3(const std::string& fileName, const ParamTable& wellTable, Slots& slots) {
+int checkWellSection3(RunContext& run, const ParamTable& wellTable, Slots& slots) {
   try {
     slots[1].clear();
     appendMissing(wellTable, REQUIRED, slots[1]);
@@ -108,7 +108,7 @@ int checkWellSection3(const std::string& fileName, const ParamTable& wellTable, 
       slots[2] = " ";  // undecided: the country items cannot be judged without the line
     } else {
       slots[2].clear();
-      countryChecks(fileName, wellTable, ctry, slots);
+      countryChecks(run, wellTable, ctry, slots);
     }
 
     locationChecks(wellTable, slots[6]);

@@ -15,9 +15,11 @@
 
 namespace zorvik {
 
+struct RunContext;
+
 // `wellTable` holds the ~Well lines; the file is read again only to quote the CTRY line as
 // written. Slots 3-5 are left as the caller preset them when there is no CTRY line.
-int checkWellSection3(const std::string& fileName, const ParamTable& wellTable, Slots& slots);
+int checkWellSection3(RunContext& run, const ParamTable& wellTable, Slots& slots);
 
 // True for the letters A-Z in either case.
 bool isAsciiLetter(char c);

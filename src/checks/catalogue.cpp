@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "base/text.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 
 namespace zorvik {
 
@@ -152,14 +152,13 @@ void place(CheckTable& table, const CatalogueLine& line, const std::string& titl
 
 }  // namespace
 
-void layOutCatalogue() {
-  RunState& state = runState();
+void layOutCatalogue(RunContext& run) {
   for (const CatalogueLine& line : kCatalogue3) {
-    std::string title = replaceAll(line.title, "<data>", state.dataSectionTitle);
-    place(state.table3, line, replaceAll(title, "<ctry>", state.countryCode));
+    std::string title = replaceAll(line.title, "<data>", run.dataSectionTitle);
+    place(run.table3, line, replaceAll(title, "<ctry>", run.countryCode));
   }
-  for (const CatalogueLine& line : kCatalogue2) place(state.table2, line, std::string(line.title));
-  place(state.table2, kWrapLengthCheck, state.doWrap ? std::string(kWrapLengthCheck.title) : "");
+  for (const CatalogueLine& line : kCatalogue2) place(run.table2, line, std::string(line.title));
+  place(run.table2, kWrapLengthCheck, run.doWrap ? std::string(kWrapLengthCheck.title) : "");
 }
 
 void storeGroupResults(CheckTable& table, int group, const Slots& slots) {

@@ -6,8 +6,10 @@
 
 namespace zorvik {
 
-// Writes the headings and titles of both tables (results are left as they are).
-void layOutCatalogue();
+struct RunContext;
+
+// Writes the headings and titles of both of the run's tables (results are left as they are).
+void layOutCatalogue(RunContext& run);
 // Rows 1..15 of column 0 of `group` := slots 1..15.
 void storeGroupResults(CheckTable& table, int group, const Slots& slots);
 // True when any result cell of groups 1.. holds text.

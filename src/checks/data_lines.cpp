@@ -3,34 +3,27 @@
 #include <cmath>
 
 #include "base/text.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "las/sections.h"
 
 namespace zorvik {
 
-std::int64_t firstDataLinePosition(const std::string& fileName) {
-  RunState& state = runState();
-  if (state.sections.entries.empty())
-    buildSectionIndex(fileName, runState().dialect, runState().sections);
-  if (!state.sections.dataName.empty()) {
+std::int64_t firstDataLinePosition(RunContext& run) {
+  if (run.sections.entries.empty()) buildSectionIndex(run.lasFile, run.dialect, run.sections);
+  if (!run.sections.dataName.empty()) {
     std::string found;
-    if (std::int64_t pos = findSection(fileName, runState().dialect, runState().sections,
-                                       state.sections.dataName, found);
+    if (std::int64_t pos =
+            findSection(run.lasFile, run.dialect, run.sections, run.sections.dataName, found);
         pos > 0)
       return pos;
   }
-  for (const SectionEntry& section : state.sections.entries)
+  for (const SectionEntry& section : run.sections.entries)
     if (section.role == ROLE_DATA) return section.start;
   return 0;
 }
 
 bool noDataAt(std::int64_t pos, std::int64_t fileLength) {
   return pos <= 0 || pos >= fileLength;
-}
-
-char dataDelimiterChar() {
-  const std::string& d = runState().dialect.delimiter;
-  return d.empty() ? ' ' : d[0];
 }
 
 std::string_view leadingField(std::string_view line, char delimiter) {

@@ -10,17 +10,16 @@
 
 namespace zorvik {
 
-// 1-based position of the first line after the run's data section title (dataSectionName, or the
-// first data section of the index when no name was found); 0 when the file has no data section.
-// Builds the section index from `fileName` when it is empty. Cannot fail.
-std::int64_t firstDataLinePosition(const std::string& fileName);
+struct RunContext;
+
+// 1-based position of the first line after the run's data section title (its data section name,
+// or the first data section of the index when no name was found); 0 when the file has no data
+// section. Builds the run's section index when it is empty. Cannot fail.
+std::int64_t firstDataLinePosition(RunContext& run);
 
 // True when a data section starting at `pos` holds nothing to read: no section, or a start at or
 // beyond the last byte of the file.
 bool noDataAt(std::int64_t pos, std::int64_t fileLength);
-
-// The data delimiter of the run as one character (a space when none is set).
-char dataDelimiterChar();
 
 // The text before the first `delimiter` of the trimmed line, trimmed (the whole trimmed line when
 // it has no delimiter).

@@ -7,7 +7,6 @@
 
 #include "base/text.h"
 #include "checks/data_lines.h"
-#include "checks/run_state.h"
 #include "las/line_reader.h"
 #include "las/lines.h"
 
@@ -186,8 +185,7 @@ void stampScan(DataScan& scan, const std::string& fileName, std::int64_t start) 
   scan.start = start;
 }
 
-const DataScan* keptScan(const std::string& fileName, std::int64_t start) {
-  const DataScan& scan = runState().dataScan;
+const DataScan* keptScan(const DataScan& scan, const std::string& fileName, std::int64_t start) {
   std::int64_t size = 0;
   std::int64_t modified = 0;
   if (!scan.valid || scan.fileName != fileName || scan.start != start ||

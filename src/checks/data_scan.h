@@ -115,8 +115,8 @@ bool sameRules(const RecordRules& a, const RecordRules& b);
 // Stamps `scan` with the file's size and modification time (left invalid when the file cannot be
 // read).
 void stampScan(DataScan& scan, const std::string& fileName, std::int64_t start);
-// The run's kept scan when it was made of this very file (same size and time) from `start`;
+// `scan` when it was made of this very file (same size and time) from `start`;
 // null otherwise.
-const DataScan* keptScan(const std::string& fileName, std::int64_t start);
+const DataScan* keptScan(const DataScan& scan, const std::string& fileName, std::int64_t start);
 
 }  // namespace zorvik

@@ -1,7 +1,7 @@
 #include "checks/file_value.h"
 
 #include "base/text.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
 #include "las/lines.h"
@@ -30,11 +30,12 @@ bool isRangeMnemonic(std::string_view m) {
 
 }  // namespace
 
-std::string lookupFileValue(const std::string& fileName, std::string_view mnemonic,
+std::string lookupFileValue(RunContext& run, std::string_view mnemonic,
                             std::string_view sectionName, std::string* unit, bool* notFound) {
+  const std::string& fileName = run.lasFile;
   if (unit) unit->clear();
   if (notFound) *notFound = false;
-  float version = runState().dialect.version;
+  float version = run.dialect.version;
   if (version <= 0) version = 2.0f;
   if (trimView(mnemonic).empty()) return {};
 
@@ -42,8 +43,7 @@ std::string lookupFileValue(const std::string& fileName, std::string_view mnemon
   if (!file.open(fileName)) return {};
   if (!sectionName.empty()) {
     std::string found;
-    if (std::int64_t pos =
-            findSection(fileName, runState().dialect, runState().sections, sectionName, found);
+    if (std::int64_t pos = findSection(fileName, run.dialect, run.sections, sectionName, found);
         pos > 0)
       file.seek(pos);
   }

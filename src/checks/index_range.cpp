@@ -4,15 +4,12 @@
 #include <cmath>
 #include <vector>
 
-#include "base/command_log.h"
 #include "base/text.h"
 #include "checks/data_lines.h"
-#include "checks/run_state.h"
-#include "checks/window_ops.h"
+#include "checks/run_context.h"
 #include "checks/wrap_layout.h"
 #include "las/line_reader.h"
 #include "las/lines.h"
-#include "las/param_writer.h"
 #include "las/sections.h"
 
 namespace zorvik {
@@ -24,8 +21,9 @@ constexpr std::int64_t TAIL_BYTES = 100000;
 
 // Where the data section that starts at `start` ends: the start of the next section's title
 // (approximately: the line after it, which the tail search stops at anyway), or past the end.
-std::int64_t dataSectionEnd(std::int64_t start, std::int64_t fileLength) {
-  const auto& index = runState().sections.entries;
+std::int64_t dataSectionEnd(const SectionIndex& sections, std::int64_t start,
+                            std::int64_t fileLength) {
+  const auto& index = sections.entries;
   for (std::size_t i = 0; i + 1 < index.size(); ++i)
     if (index[i].start == start) return index[i + 1].start;
   return fileLength + 1;
@@ -79,28 +77,6 @@ int evaluate(const Slots& slots) {
   return CHECK_PASSED;
 }
 
-// Rewrites STOP in the file (the well section may be titled ~Well, or ~W in a 1.2 file) when it
-// still holds the null value read before, and says in the command log what was done or why not.
-// True when the file now holds the new value, also when another run rewrote it first.
-bool repairStop(const std::string& fileName, const std::string& nullStop,
-                const std::string& value) {
-  ParameterRewrite rewrite =
-      rewriteParameterInPlace(fileName, {"Well", "V", "W"}, "STOP", nullStop, value);
-  switch (rewrite.result.outcome) {
-    case RewriteOutcome::Rewritten:
-      writeCommandLog("LAS file " + fileName + " rewritten: STOP value " + rewrite.oldValue +
-                      " replaced by " + value + ".");
-      return true;
-    case RewriteOutcome::NothingToDo:
-      return true;
-    case RewriteOutcome::Refused:
-      break;
-  }
-  writeCommandLog("Error: LAS file " + fileName +
-                  " could not be rewritten: " + rewrite.result.reason + ".");
-  return false;
-}
-
 }  // namespace
 
 std::string_view trimChar(std::string_view s, char c) {
@@ -109,14 +85,14 @@ std::string_view trimChar(std::string_view s, char c) {
   return s;
 }
 
-int readIndexEnds(const std::string& fileName, const std::string& wrapValue, IndexEnds& ends,
+int readIndexEnds(RunContext& run, const std::string& wrapValue, IndexEnds& ends,
                   int linesPerRecord) {
   ends = {};
   LineReader file;
-  if (!file.open(fileName)) return INDEX_FAULT;
-  std::int64_t first = firstDataLinePosition(fileName);
+  if (!file.open(run.lasFile)) return INDEX_FAULT;
+  std::int64_t first = firstDataLinePosition(run);
   if (noDataAt(first, file.length())) return INDEX_NO_DATA;
-  char delimiter = dataDelimiterChar();
+  char delimiter = run.dialect.delimiterChar();
 
   file.seek(first);
   std::string_view line;
@@ -126,7 +102,7 @@ int readIndexEnds(const std::string& fileName, const std::string& wrapValue, Ind
   ends.first = roundTo5(leadingNumber(ends.firstText));
 
   // Only the tail of the data is read for the last index: files run to hundreds of MB.
-  std::int64_t from = dataSectionEnd(first, file.length()) - TAIL_BYTES;
+  std::int64_t from = dataSectionEnd(run.sections, first, file.length()) - TAIL_BYTES;
   if (from > first) {
     bool whole = startsLine(file, from);
     file.seek(from);
@@ -161,13 +137,13 @@ int readIndexEnds(const std::string& fileName, const std::string& wrapValue, Ind
   return INDEX_READ;
 }
 
-int analyseIncrements(const std::string& fileName, int linesPerRecord, IncrementResult& result) {
+int analyseIncrements(RunContext& run, int linesPerRecord, IncrementResult& result) {
   result = {};
   LineReader file;
-  if (!file.open(fileName)) return STEP_UNREADABLE;
-  std::int64_t first = firstDataLinePosition(fileName);
+  if (!file.open(run.lasFile)) return STEP_UNREADABLE;
+  std::int64_t first = firstDataLinePosition(run);
   if (noDataAt(first, file.length())) return STEP_NO_INCREMENT;
-  IncrementWalk walk(linesPerRecord, dataDelimiterChar());
+  IncrementWalk walk(linesPerRecord, run.dialect.delimiterChar());
   file.seek(first);
   std::string_view line;
   while (file.readLine(line) && walk.feed(line)) {
@@ -175,11 +151,10 @@ int analyseIncrements(const std::string& fileName, int linesPerRecord, Increment
   return walk.finish(result);
 }
 
-int checkIndexRange(const std::string& fileName, const WellRange& well,
-                    const std::string& wrapValue, const ParamTable& wellTable,
-                    const ParamTable& curveTable, Slots& slots) {
-  RunState& state = runState();
-  const std::string& dataName = state.sections.dataName;
+int checkIndexRange(RunContext& run, const WellRange& well, const std::string& wrapValue,
+                    const ParamTable& wellTable, const ParamTable& curveTable, Slots& slots,
+                    std::string* nullStopLastIndex) {
+  const std::string& dataName = run.sections.dataName;
 
   // Presence: without all four values nothing else can be compared.
   slots[1].clear();
@@ -210,10 +185,9 @@ int checkIndexRange(const std::string& fileName, const WellRange& well,
   int linesPerRecord = 0;
   int bufferLength = 0;
   int channels = 0;
-  analyseWrap(fileName, linesPerRecord, bufferLength, channels, curveTable.lastEntry());
+  analyseWrap(run, linesPerRecord, bufferLength, channels, curveTable.lastEntry());
   IndexEnds ends;
-  if (readIndexEnds(fileName, wrapValue, ends, linesPerRecord) == INDEX_FAULT)
-    return evaluate(slots);
+  if (readIndexEnds(run, wrapValue, ends, linesPerRecord) == INDEX_FAULT) return evaluate(slots);
 
   slots[2].clear();
   if (roundTo5(strt.number) != ends.first)
@@ -229,23 +203,10 @@ int checkIndexRange(const std::string& fileName, const WellRange& well,
       slots[3] = "STOP = " + formatShortest(stop.number) +
                  ", Last ~ASCII index = " + formatShortest(ends.last);
   } else {
-    // A file written in real time leaves STOP at NULL: take it from the data.
-    if (!repairStop(fileName, stopText, formatFixed(ends.last))) {
-      if (state.window != nullptr)
-        state.window->showCritical(
-            "Error Repairing Null STOP Value",
-            "STOP was NULL (real time file?), but there was an error attempting to update the "
-            "STOP value in ~Well section with last index value of ~" +
-                dataName +
-                ". Manually change the STOP parameter value to the correct number and try Zorvik "
-                "again.");
-      return CHECK_FAULT;
-    }
-    stop.number = ends.last;
-    state.nullStopRepaired = true;
-    state.dataScan = {};
-    buildSectionIndex(fileName, runState().dialect,
-                      runState().sections);  // the header changed length: stored positions moved
+    // A file written in real time leaves STOP at NULL: the driver takes it from the data.
+    if (nullStopLastIndex == nullptr) return CHECK_FAULT;
+    *nullStopLastIndex = formatFixed(ends.last);
+    return CHECK_NULL_STOP;
   }
 
   slots[4].clear();
@@ -261,13 +222,13 @@ int checkIndexRange(const std::string& fileName, const WellRange& well,
   // Group 4's pass may already have walked the increments of this very data.
   IncrementResult increments;
   int answer = 0;
-  const DataScan* kept = keptScan(fileName, firstDataLinePosition(fileName));
+  const DataScan* kept = keptScan(run.dataScan, run.lasFile, firstDataLinePosition(run));
   if (kept != nullptr && kept->linesPerRecord == linesPerRecord &&
-      kept->delimiter == dataDelimiterChar()) {
+      kept->delimiter == run.dialect.delimiterChar()) {
     answer = kept->incrementAnswer;
     increments = kept->increments;
   } else {
-    answer = analyseIncrements(fileName, linesPerRecord, increments);
+    answer = analyseIncrements(run, linesPerRecord, increments);
   }
   switch (answer) {
     case STEP_CONSTANT:

@@ -1,7 +1,7 @@
 // Group 6 of the 1.2/2.0 catalogue (and of 3.0): STRT, STOP, STEP and NULL of the ~Well section
-// against the index channel of the data; the null STOP repair of real-time files.
+// against the index channel of the data.
 //
-// Never throws on bad input. CHECK_FAULT only when a null STOP could not be rewritten.
+// Never throws on bad input.
 #pragma once
 
 #include <string>
@@ -13,6 +13,12 @@
 
 namespace zorvik {
 
+struct RunContext;
+
+// STOP holds the NULL value (a file written in real time): the check stopped there and gave back
+// the last index, for its driver to repair the file and check it again.
+inline constexpr int CHECK_NULL_STOP = 3;
+
 // The ~Well values the driver read (a single space when a mnemonic is absent).
 struct WellRange {
   std::string strt;
@@ -21,13 +27,13 @@ struct WellRange {
   std::string nullValue;
 };
 
-// Fills slots 1..7 and returns CHECK_PASSED, CHECK_FAILED, CHECK_FAULT (the null STOP repair
-// failed) or CHECK_NOTHING (the data could not be analysed: record nothing). When STRT, STOP,
-// STEP or NULL is missing only slot 1 is written. May rewrite the STOP value in the file; it then
-// sets runState().nullStopRepaired and rebuilds the section index.
-int checkIndexRange(const std::string& fileName, const WellRange& well,
-                    const std::string& wrapValue, const ParamTable& wellTable,
-                    const ParamTable& curveTable, Slots& slots);
+// Fills slots 1..7 of the run's file and returns CHECK_PASSED, CHECK_FAILED or CHECK_NOTHING (the
+// data could not be analysed: record nothing). When STRT, STOP, STEP or NULL is missing only slot
+// 1 is written. A STOP equal to NULL gives CHECK_NULL_STOP with the last index, formatted as STOP
+// is to be written, in `*nullStopLastIndex` (CHECK_FAULT when that is null).
+int checkIndexRange(RunContext& run, const WellRange& well, const std::string& wrapValue,
+                    const ParamTable& wellTable, const ParamTable& curveTable, Slots& slots,
+                    std::string* nullStopLastIndex);
 
 // --- Pieces of the check, published for their own tests. ---
 
@@ -46,12 +52,12 @@ inline constexpr int INDEX_NO_DATA = 2;
 // record: the last index is the first of the last `linesPerRecord` data lines when that line holds
 // no delimiter, else the last line holding none. INDEX_READ, INDEX_NO_DATA (no data line) or
 // INDEX_FAULT (the file cannot be read).
-int readIndexEnds(const std::string& fileName, const std::string& wrapValue, IndexEnds& ends,
+int readIndexEnds(RunContext& run, const std::string& wrapValue, IndexEnds& ends,
                   int linesPerRecord = 0);
 
 // Increment analysis of the index channel (answers and result in cert2/data_scan.h): walks the
 // records of the data section up to the end of the file or a title line.
-int analyseIncrements(const std::string& fileName, int linesPerRecord, IncrementResult& result);
+int analyseIncrements(RunContext& run, int linesPerRecord, IncrementResult& result);
 
 // Removes every leading and trailing `c` ("0.1500" with '0' gives ".15").
 std::string_view trimChar(std::string_view s, char c);

@@ -3,12 +3,11 @@
 #include <cstdio>
 
 #include "base/clock.h"
-#include "base/command_log.h"
 #include "base/file_helpers.h"
 #include "base/file_writer.h"
 #include "base/text.h"
 #include "checks/catalogue.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 
 namespace zorvik {
 
@@ -54,33 +53,30 @@ bool appendGroup(const CheckTable& table, int group, std::string& out) {
 
 }  // namespace
 
-const CheckTable& reportTable() {
-  return isVersion3() ? runState().table3 : runState().table2;
-}
-
-std::string verdict(const CheckTable& table) {
-  float version = runState().dialect.version;
-  if (!anyFailure(table))
+std::string verdict(const RunContext& run) {
+  const float version = run.dialect.version;
+  if (!anyFailure(run.results()))
     return "LAS file PASSED Ver " + formatShortest(version) + " Certification";
   if (isKnownVersion(version))
     return "LAS file FAILS Ver " + formatShortest(version) + " Certification";
   return "LAS file FAILS Certification";
 }
 
-std::string verdictLine(const CheckTable& table) {
-  return "Result: " + verdict(table);
+std::string verdictLine(const RunContext& run) {
+  return "Result: " + verdict(run);
 }
 
-std::string buildReport(const CheckTable& table) {
-  return buildReport(table, reportDate(localNow()));
+std::string buildReport(const RunContext& run) {
+  return buildReport(run, reportDate(localNow()));
 }
 
-std::string buildReport(const CheckTable& table, const std::string& dateText) {
-  std::string out = "LAS Certification Result for: " + runState().lasFile + kEol;
+std::string buildReport(const RunContext& run, const std::string& dateText) {
+  const CheckTable& table = run.results();
+  std::string out = "LAS Certification Result for: " + run.lasFile + kEol;
   out += "Zorvik Ver: " + toText(ZORVIK_VERSION_MAJOR) + "." + toText(ZORVIK_VERSION_MINOR) + "." +
          toText(ZORVIK_VERSION_PATCH) + " Date: " + dateText + kEol;
   out += kEol;
-  out += verdictLine(table) + kEol;
+  out += verdictLine(run) + kEol;
   out += kEol;
   out += kEol;
   // Listing stops with the first group holding a failed check: later groups were not reached.
@@ -91,16 +87,16 @@ std::string buildReport(const CheckTable& table, const std::string& dateText) {
   return out;
 }
 
-int writeLogFile(const std::string& logFile, const std::string& firstNote,
+int writeLogFile(const RunContext& run, const std::string& logFile, const std::string& firstNote,
                  const std::string& secondNote) {
   std::string text;
   if (!secondNote.empty()) text += "Note: " + secondNote + kEol + kEol;
   if (!firstNote.empty()) text += firstNote + kEol;
-  text += buildReport(reportTable()) + kEol;
+  text += buildReport(run) + kEol;
   // The previous log file stays whole unless the new one is written completely.
   if (auto failure = writeFileSafely(logFile, text)) {
-    writeCommandLog("Error: Log file " + logFile +
-                    " could not be written: " + describeWriteError(*failure) + ".");
+    run.log("Error: Log file " + logFile +
+            " could not be written: " + describeWriteError(*failure) + ".");
     return RUN_FAULT;
   }
   return RUN_COMPLETED;

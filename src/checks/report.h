@@ -11,26 +11,24 @@
 
 namespace zorvik {
 
-// The table the report of the current run reads: the 3.0 table when the run state's version is
-// exactly 3.0, otherwise the 1.2/2.0 table.
-const CheckTable& reportTable();
+struct RunContext;
 
-// The verdict of `table` for the run state's version: "LAS file PASSED Ver 2 Certification" or
-// a FAILS text.
-std::string verdict(const CheckTable& table);
+// The verdict of the run's results (3.0 table for a 3.0 file, else the 1.2/2.0 table) for its
+// version: "LAS file PASSED Ver 2 Certification" or a FAILS text.
+std::string verdict(const RunContext& run);
 // The report's "Result: " line: the verdict after that word (without CR LF).
-std::string verdictLine(const CheckTable& table);
+std::string verdictLine(const RunContext& run);
 
-// The report of `table` for the run state's LAS file and version, dated now. Cannot fail.
-std::string buildReport(const CheckTable& table);
+// The report of the run's results for its LAS file and version, dated now. Cannot fail.
+std::string buildReport(const RunContext& run);
 // The same with a given date text in place of the current date and time.
-std::string buildReport(const CheckTable& table, const std::string& dateText);
+std::string buildReport(const RunContext& run, const std::string& dateText);
 
-// Replaces `logFile` with the report of the current run: "Note: " + `secondNote` and an empty
+// Replaces `logFile` with the report of the run: "Note: " + `secondNote` and an empty
 // line when that note is not empty, `firstNote` as a line when not empty, the report and one more
 // line end. Returns RUN_COMPLETED, or RUN_FAULT when the file could not be written: the previous
 // file is then left as it was and the command log says why.
-int writeLogFile(const std::string& logFile, const std::string& firstNote,
+int writeLogFile(const RunContext& run, const std::string& logFile, const std::string& firstNote,
                  const std::string& secondNote);
 
 }  // namespace zorvik

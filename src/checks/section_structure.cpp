@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "base/text.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "checks/title_lines.h"
 #include "las/lines.h"
 #include "las/sections.h"
@@ -156,15 +156,14 @@ bool hasMatchingSetPair(const std::vector<Title>& titles) {
   return false;
 }
 
-void minimumSections3(const std::vector<Title>& titles, std::string& slot) {
-  const RunState& rs = runState();
+void minimumSections3(const std::vector<Title>& titles, const SectionIndex& sections,
+                      std::string& slot) {
   bool version = false, well = false, definition = false, data = false;
   for (const Title& t : titles) {
     version = version || iequals(t.name, "Version");
     well = well || iequals(t.name, "Well");
-    definition =
-        definition || (!rs.sections.curveName.empty() && iequals(t.text, rs.sections.curveName));
-    data = data || (!rs.sections.dataName.empty() && iequals(t.text, rs.sections.dataName));
+    definition = definition || (!sections.curveName.empty() && iequals(t.text, sections.curveName));
+    data = data || (!sections.dataName.empty() && iequals(t.text, sections.dataName));
     if (version && well && definition && data) break;
   }
   slot.clear();
@@ -380,24 +379,22 @@ void sequentialIndexes(const std::vector<Title>& titles, std::string& slot) {
 
 }  // namespace
 
-int checkSectionStructure(const std::string& fileName, Slots& slots) {
+int checkSectionStructure(RunContext& run, Slots& slots) {
   try {
-    const bool v3 = isVersion3();
+    const bool v3 = run.isV3();
     for (int k = 1; k <= 14; ++k) slots[k] = (v3 || k <= 3) ? " " : "";
 
-    RunState& rs = runState();
-    if (rs.sections.entries.empty() &&
-        !buildSectionIndex(fileName, runState().dialect, runState().sections))
+    if (run.sections.entries.empty() && !buildSectionIndex(run.lasFile, run.dialect, run.sections))
       return CHECK_FAULT;
-    const std::vector<Title> titles = titlesOf(rs.sections.entries);
+    const std::vector<Title> titles = titlesOf(run.sections.entries);
 
     if (!v3) {
       minimumSections2(titles, slots[1]);
       slots[3].clear();
-      checkTitleLines2(fileName, slots[3]);
+      checkTitleLines2(run.lasFile, slots[3]);
       duplicates2(titles, slots[2]);
     } else {
-      minimumSections3(titles, slots[1]);
+      minimumSections3(titles, run.sections, slots[1]);
       recognisedNames(titles, slots[2]);
       firstAndSecond(titles, slots[3]);
       duplicates3(titles, slots[4]);

@@ -2,7 +2,7 @@
 // titles use recognised names and come in the required order, duplicates, and for 3.0 files how
 // the _Parameter/_Definition/_Data sets are associated and numbered through their [n] indexes.
 //
-// Works on the section index of the run state (building it when empty) and never reads data lines.
+// Works on the run's section index (building it when empty) and never reads data lines.
 // Can fail: returns CHECK_FAULT (0) when the index cannot be built or an internal fault occurs;
 // the slots then hold whatever had been decided so far. Never throws.
 #pragma once
@@ -16,6 +16,8 @@ namespace zorvik {
 // Decides items 1-14 of the group for a 3.0 file, items 1-3 for other versions (the others are
 // left empty). Returns CHECK_PASSED (-1) when items 1-14 are all empty, CHECK_FAILED (1) when any
 // holds findings, CHECK_FAULT (0) on an internal fault.
-int checkSectionStructure(const std::string& fileName, Slots& slots);
+struct RunContext;
+
+int checkSectionStructure(RunContext& run, Slots& slots);
 
 }  // namespace zorvik

@@ -1,7 +1,7 @@
 #include "checks/version_checks.h"
 
 #include "base/text.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 
 namespace zorvik {
 
@@ -10,8 +10,8 @@ namespace {
 const std::string kBlank = " ";
 
 // The first section titled "Version" (or "V" outside 3.0) in the section index.
-bool versionSectionPresent(bool v3) {
-  for (const SectionEntry& entry : runState().sections.entries) {
+bool versionSectionPresent(const SectionIndex& sections, bool v3) {
+  for (const SectionEntry& entry : sections.entries) {
     if (iequals(entry.name, "Version") || (!v3 && iequals(entry.name, "V"))) return true;
   }
   return false;
@@ -23,7 +23,7 @@ bool hasExponentLetter(std::string_view text) {
 
 // The VERS finding ("" when the value is acceptable and agrees with the version in force).
 // An acceptable value that agrees becomes the run's version.
-std::string versValueFinding(const std::string& vers) {
+std::string versValueFinding(const std::string& vers, float& version) {
   double value = 0;
   if (!parseNumber(vers, value)) {
     return "VERS value is invalid (not a number) or VERS not found to read value from. Value read "
@@ -36,7 +36,6 @@ std::string versValueFinding(const std::string& vers) {
            ". Version must be 1.2, 2 or 3 before other checks can be attempted";
   }
   float asFloat = static_cast<float>(value);
-  float& version = runState().dialect.version;
   if (asFloat != version) {
     return "Mismatched VERS value, " + vers + "and " + formatShortest(version) +
            ". Version intially determined and read from VERS are different.";
@@ -76,13 +75,14 @@ bool allEmpty(const Slots& slots) {
 
 }  // namespace
 
-int checkVersionSection(const ParamTable& versionTable, std::string& wrapValue, Slots& slots) {
-  const bool v3 = isVersion3();
+int checkVersionSection(RunContext& run, const ParamTable& versionTable, std::string& wrapValue,
+                        Slots& slots) {
+  const bool v3 = run.isV3();
   slots.fill("");
   for (int k = 1; k <= (v3 ? 9 : 6); ++k) slots[k] = kBlank;
   wrapValue = kBlank;
 
-  if (!versionSectionPresent(v3)) {
+  if (!versionSectionPresent(run.sections, v3)) {
     slots[1] = "Version section not found";
     return CHECK_FAILED;
   }
@@ -103,7 +103,7 @@ int checkVersionSection(const ParamTable& versionTable, std::string& wrapValue, 
     return CHECK_FAILED;
   }
 
-  slots[5] = versValueFinding(vers);
+  slots[5] = versValueFinding(vers, run.dialect.version);
   if (!v3) {
     // The 1.2/2.0 catalogue judges the VERS value in row 4.
     slots[4] = slots[5];

@@ -14,11 +14,14 @@ namespace zorvik {
 
 // Checks VERS and WRAP (and for a 3.0 file DLM and the order of the three) in the ~Version table.
 // Fills slots 1..9 (the others are emptied): a single space = not reached, "" = passed, other
-// text = the finding. Finds the section through runState().sections.entries and confirms or
-// corrects runState().dialect.version from an acceptable VERS value. `wrapValue` receives the WRAP
+// text = the finding. Finds the section through the run's section index and confirms or
+// corrects the run's version from an acceptable VERS value. `wrapValue` receives the WRAP
 // value as written (a single space when WRAP is missing or the section was not found). Returns
 // CHECK_PASSED when slots 1..9 are all empty, else CHECK_FAILED.
-int checkVersionSection(const ParamTable& versionTable, std::string& wrapValue, Slots& slots);
+struct RunContext;
+
+int checkVersionSection(RunContext& run, const ParamTable& versionTable, std::string& wrapValue,
+                        Slots& slots);
 
 // The delimiter character of a DLM word: "SPACE" -> " ", "COMMA" -> ",", "TAB" -> "\t"
 // (ignoring case and surrounding blanks); any other word gives a single space.

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "base/text.h"
-#include "checks/run_state.h"
-#include "checks/window_ops.h"
+#include "checks/run_context.h"
+#include "checks/run_observer.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
 #include "las/sections.h"
@@ -29,47 +29,44 @@ std::string countPattern(const std::vector<SampledLine>& lines, std::size_t firs
 }
 
 // Lets the window repaint and take an Escape press; true when the user asked to cancel.
-bool serviceWindow() {
-  RunState& state = runState();
-  if (state.window == nullptr) return false;
-  state.window->processEvents();
-  return state.escapePressed;
+bool serviceWindow(RunObserver* observer) {
+  if (observer == nullptr) return false;
+  observer->processEvents();
+  return observer->cancelRequested();
 }
 
-std::int64_t dataSectionStart(const std::string& fileName) {
+std::int64_t dataSectionStart(const std::string& fileName, const Dialect& dialect,
+                              SectionIndex& sections) {
   std::string found;
-  for (const std::string& name :
-       {runState().sections.dataName, std::string("Log_Data"), std::string("A")}) {
+  for (const std::string& name : {sections.dataName, std::string("Log_Data"), std::string("A")}) {
     if (name.empty()) continue;
-    if (std::int64_t pos =
-            findSection(fileName, runState().dialect, runState().sections, name, found);
-        pos > 0)
+    if (std::int64_t pos = findSection(fileName, dialect, sections, name, found); pos > 0)
       return pos;
   }
   return 0;
 }
 
-int curveLineCount(const std::string& fileName) {
-  const std::string& curve = runState().sections.curveName;
+int curveLineCount(const std::string& fileName, const Dialect& dialect, SectionIndex& sections) {
+  const std::string& curve = sections.curveName;
   if (curve.empty()) return 0;
   ParamTable table;
-  parseSectionTable(fileName, runState().dialect, runState().sections, table, curve);
+  parseSectionTable(fileName, dialect, sections, table, curve);
   return table.lastEntry();
 }
 
 }  // namespace
 
-int analyseWrap(const std::string& fileName, int& linesPerRecord, int& bufferLength, int& channels,
+int analyseWrap(const std::string& fileName, const Dialect& dialect, SectionIndex& sections,
+                RunObserver* observer, int& linesPerRecord, int& bufferLength, int& channels,
                 int sampleHint) {
   linesPerRecord = bufferLength = channels = 0;
-  std::int64_t start = dataSectionStart(fileName);
+  std::int64_t start = dataSectionStart(fileName, dialect, sections);
   LineReader file;
   if (start <= 0 || !file.open(fileName) || start >= file.length()) return WRAP_UNDETERMINED;
-  const std::string& delimiter =
-      runState().dialect.delimiter.empty() ? std::string(" ") : runState().dialect.delimiter;
+  const std::string delimiter = dialect.delimiter.empty() ? std::string(" ") : dialect.delimiter;
 
   // About three fifths of the channel count: enough lines for two records of any usual layout.
-  int count = sampleHint > 0 ? sampleHint : curveLineCount(fileName);
+  int count = sampleHint > 0 ? sampleHint : curveLineCount(fileName, dialect, sections);
   std::size_t sampleSize = static_cast<std::size_t>(std::floor(count / 5.0 * 3.0));
 
   std::vector<SampledLine> lines;
@@ -78,7 +75,7 @@ int analyseWrap(const std::string& fileName, int& linesPerRecord, int& bufferLen
   while (lines.size() <= sampleSize && file.readLine(line)) {
     if (trimView(line).empty()) continue;
     lines.push_back({countWords(line, delimiter), static_cast<int>(trimRightView(line).size())});
-    if (serviceWindow()) return WRAP_CANCELLED;
+    if (serviceWindow(observer)) return WRAP_CANCELLED;
   }
   if (lines.empty()) return WRAP_UNDETERMINED;
 
@@ -107,4 +104,11 @@ int analyseWrap(const std::string& fileName, int& linesPerRecord, int& bufferLen
   }
   return WRAP_UNDETERMINED;
 }
+
+int analyseWrap(RunContext& run, int& linesPerRecord, int& bufferLength, int& channels,
+                int sampleHint) {
+  return analyseWrap(run.lasFile, run.dialect, run.sections, run.observer, linesPerRecord,
+                     bufferLength, channels, sampleHint);
+}
+
 }  // namespace zorvik

@@ -5,7 +5,13 @@
 
 #include <string>
 
+#include "las/dialect.h"
+#include "las/section_types.h"
+
 namespace zorvik {
+
+class RunObserver;
+struct RunContext;
 
 inline constexpr int WRAP_UNWRAPPED = 1;
 inline constexpr int WRAP_WRAPPED = 2;
@@ -16,7 +22,12 @@ inline constexpr int WRAP_CANCELLED = 4;
 // (0: count the ~Curve lines). Gives back the lines per record, the record buffer length and the
 // channels per record (the first line's for unwrapped data). Never fails: unreadable data is
 // WRAP_UNDETERMINED with outputs 0.
-int analyseWrap(const std::string& fileName, int& linesPerRecord, int& bufferLength, int& channels,
+// `observer` (may be null) sees the sample being read and may cancel it (WRAP_CANCELLED).
+int analyseWrap(const std::string& fileName, const Dialect& dialect, SectionIndex& sections,
+                RunObserver* observer, int& linesPerRecord, int& bufferLength, int& channels,
+                int sampleHint);
+// The same for the run's LAS file.
+int analyseWrap(RunContext& run, int& linesPerRecord, int& bufferLength, int& channels,
                 int sampleHint);
 
 }  // namespace zorvik

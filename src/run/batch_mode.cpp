@@ -1,70 +1,73 @@
 #include "run/batch_mode.h"
 
-#include "base/command_log.h"
 #include "base/fault.h"
 #include "base/text.h"
 #include "cert2/certify2.h"
 #include "cert3/certify3.h"
 #include "checks/report.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "run/run_start.h"
+#include "run/session.h"
 #include "run/version_sniff.h"
 
 namespace zorvik {
 
 namespace {
 
-void writeHandlerEntry(const Fault& fault) {
-  writeCommandLog(handlerMessage("doBatchMode", fault) + ". LAS file was: ");
+void writeHandlerEntry(const RunContext& run, const Fault& fault) {
+  run.log(handlerMessage("doBatchMode", fault) + ". LAS file was: ");
 }
 
-void certify() {
-  RunState& state = runState();
+void certify(RunContext& run) {
   Slots group1;
-  int fileStatus = beginRun(group1);
+  int fileStatus = beginRun(run, group1);
 
   int status = RUN_FAULT;
   if (fileStatus == RUN_STOPPED) {
     // An unusable file still gets its report; the run then goes on to the version sniff, which
     // fails and leaves its own entries in the command log.
-    storeFileResults(group1);
-    status = writeLogFile(state.logFile, "", "");
+    storeFileResults(run, group1);
+    status = writeLogFile(run, run.logFile, "", "");
   }
 
-  float version = sniffVersion(state.lasFile);
+  float version = sniffVersion(run.lasFile);
   if (version == 0.0f) {
-    writeCommandLog("LAS Version was not read from the file correctly. (" +
-                    formatShortest(version) +
-                    "). It is either absent, not a numerical value or the file does not have "
-                    "basic LAS properties. No further processing is possible.");
-    writeHandlerEntry(Fault{});
+    run.log("LAS Version was not read from the file correctly. (" + formatShortest(version) +
+            "). It is either absent, not a numerical value or the file does not have "
+            "basic LAS properties. No further processing is possible.");
+    writeHandlerEntry(run, Fault{});
     return;
   }
 
-  state.dialect.version = version;
+  run.dialect.version = version;
   if (version == 1.2f || version == 2.0f) {
-    status = aaCertify2(state.lasFile);
+    status = aaCertify2(run);
   } else if (version == 3.0f) {
-    status = aaCertify3(state.lasFile);
+    status = aaCertify3(run);
   } else {
-    writeCommandLog("The LAS Version was not 1.2, 2.0 or 3.0. It was : " + formatShortest(version) +
-                    ". No further processing will be done.");
+    run.log("The LAS Version was not 1.2, 2.0 or 3.0. It was : " + formatShortest(version) +
+            ". No further processing will be done.");
   }
 
   if (status == RUN_COMPLETED) {
-    writeLogFile(state.logFile, "", "");
+    writeLogFile(run, run.logFile, "", "");
   } else if (status != RUN_STOPPED) {
-    writeCommandLog("A processing error occured within the program.");
+    run.log("A processing error occured within the program.");
   }
 }
 
 }  // namespace
 
-void doBatchMode() {
+void doBatchMode(const Session& session) {
+  RunContext run;
+  run.lasFile = session.lasFile;
+  run.logFile = session.logFile;
+  run.statusLine = session.statusLine;
+  run.doWrap = session.doWrap;
   try {
-    certify();
+    certify(run);
   } catch (...) {
-    writeHandlerEntry(currentFault());
+    writeHandlerEntry(run, currentFault());
   }
 }
 

@@ -2,11 +2,9 @@
 
 #include <filesystem>
 #include <map>
-#include <mutex>
 #include <string_view>
 #include <system_error>
 
-#include "base/command_log.h"
 #include "base/fault.h"
 #include "base/text.h"
 #include "cert2/certify2.h"
@@ -14,7 +12,7 @@
 #include "checks/catalogue.h"
 #include "checks/file_checks.h"
 #include "checks/report.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "las/line_reader.h"
 #include "run/run_start.h"
 #include "run/version_sniff.h"
@@ -22,13 +20,6 @@
 namespace zorvik {
 
 namespace {
-
-// The checks still keep their tables in the process-wide run state, so two certifications may
-// not overlap: callers on other threads wait here for their turn.
-std::mutex& runLock() {
-  static std::mutex lock;
-  return lock;
-}
 
 std::string versionText(float version) {
   std::string text = formatShortest(version);
@@ -153,29 +144,23 @@ FileCertification unreadable(const std::string& why) {
 }
 
 // The steps of the batch run, with the outcome kept instead of logged.
-FileCertification run(const std::string& path, const CertifyOptions& options,
-                      std::vector<std::string>& messages) {
-  RunState& state = runState();
-  resetRunState();
-  state.batchMode = true;
-  state.lasFile = path;
-  state.logFile = options.reportFile;
-  state.doWrap = options.wrapChecks;
-
+FileCertification certifyIn(RunContext& context, const CertifyOptions& options,
+                            const std::vector<std::string>& messages) {
+  const std::string& path = context.lasFile;
   FileCertification result;
   result.verdict = Verdict::Failed;
   auto writeReport = [&] {
     if (!options.reportFile.empty())
-      result.reportWritten = writeLogFile(options.reportFile, "", "") == RUN_COMPLETED;
+      result.reportWritten = writeLogFile(context, options.reportFile, "", "") == RUN_COMPLETED;
   };
 
   Slots group1;
-  if (beginRun(group1) == RUN_STOPPED) {
-    storeFileResults(group1);
+  if (beginRun(context, group1) == RUN_STOPPED) {
+    storeFileResults(context, group1);
     writeReport();
     float version = sniffVersion(path);
     if (version != 0.0f) result.version = versionText(version);
-    result.rows = rowsOf(state.table2);
+    result.rows = rowsOf(context.table2);
     result.onlyLineEndsFailed = onlyLineEnds(result.rows);
     return result;
   }
@@ -183,30 +168,30 @@ FileCertification run(const std::string& path, const CertifyOptions& options,
   float version = sniffVersion(path);
   if (version == 0.0f) {
     result.note = "no LAS version: no well-formed VERS line before the data";
-    result.rows = rowsOf(state.table2);
+    result.rows = rowsOf(context.table2);
     return result;
   }
-  state.dialect.version = version;
+  context.dialect.version = version;
   result.version = versionText(version);
   int status = RUN_FAULT;
   if (version == 1.2f || version == 2.0f) {
-    status = aaCertify2(path);
+    status = aaCertify2(context);
   } else if (version == 3.0f) {
-    status = aaCertify3(path);
+    status = aaCertify3(context);
   } else {
     result.note = "LAS version " + formatShortest(version) + " is not 1.2, 2.0 or 3.0";
-    result.rows = rowsOf(state.table2);
+    result.rows = rowsOf(context.table2);
     return result;
   }
 
-  result.rows = rowsOf(reportTable());
+  result.rows = rowsOf(context.results());
   if (status != RUN_COMPLETED) {
     result.note = "a processing error ended the certification";
     if (!messages.empty()) result.note += ": " + messages.back();
     return result;
   }
   writeReport();
-  if (!anyFailure(reportTable())) result.verdict = Verdict::Passed;
+  if (!anyFailure(context.results())) result.verdict = Verdict::Passed;
   return result;
 }
 
@@ -224,19 +209,20 @@ FileCertification certifyFile(const std::string& path, const CertifyOptions& opt
     return unreadable(faultFromErrno(errno).description);
   }
 
+  // Each certification has a context of its own, so files certify side by side on threads.
+  RunContext context;
+  context.lasFile = path;
+  context.logFile = options.reportFile;
+  context.doWrap = options.wrapChecks;
+  std::vector<std::string> messages;
+  context.logSink = [&messages](std::string_view message) { messages.emplace_back(message); };
   FileCertification result;
-  {
-    std::lock_guard<std::mutex> hold(runLock());
-    std::vector<std::string> messages;
-    setCommandLogSink([&messages](const std::string& message) { messages.push_back(message); });
-    try {
-      result = run(path, options, messages);
-    } catch (...) {
-      result = FileCertification{};
-      result.verdict = Verdict::Failed;
-      result.note = "a processing error ended the certification: " + currentFault().description;
-    }
-    setCommandLogSink({});
+  try {
+    result = certifyIn(context, options, messages);
+  } catch (...) {
+    result = FileCertification{};
+    result.verdict = Verdict::Failed;
+    result.note = "a processing error ended the certification: " + currentFault().description;
   }
   numberFindings(path, result.rows);
   return result;

@@ -1,6 +1,6 @@
 #include "run/startup.h"
 
-// The window, when built, registers itself with setWindowLauncher() before start-up runs.
+// The program without a window: the batch form and the command-line tool.
 int main(int argc, char** argv) {
-  return zorvik::startUp(argc, argv);
+  return zorvik::startUp(argc, argv, nullptr);
 }

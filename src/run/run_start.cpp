@@ -5,7 +5,7 @@
 #include "base/file_writer.h"
 #include "checks/catalogue.h"
 #include "checks/file_checks.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 
 namespace zorvik {
 
@@ -30,23 +30,22 @@ void removeLeftoversBeside(const std::string& lasFile, const std::string& logFil
 
 }  // namespace
 
-int beginRun(Slots& group1) {
-  RunState& state = runState();
+int beginRun(RunContext& run, Slots& group1) {
   // A run that died while rewriting the LAS file or writing its report left a temporary file
   // beside it; this run on the same folders clears it away.
-  removeLeftoversBeside(state.lasFile, state.logFile, std::time(nullptr));
-  state.table3.clear();
-  state.table2.clear();
-  layOutCatalogue();
+  removeLeftoversBeside(run.lasFile, run.logFile, std::time(nullptr));
+  run.table3.clear();
+  run.table2.clear();
+  layOutCatalogue(run);
 
-  int fileStatus = fileLevelChecks(state.lasFile, group1);
-  for (int row = 1; row <= state.table2.lastRow(); ++row) state.table2.at(row, COL_MARK, 1) = " ";
+  int fileStatus = fileLevelChecks(run.lasFile, group1);
+  for (int row = 1; row <= run.table2.lastRow(); ++row) run.table2.at(row, COL_MARK, 1) = " ";
   return fileStatus;
 }
 
-void storeFileResults(const Slots& group1) {
-  storeGroupResults(runState().table3, 1, group1);
-  storeGroupResults(runState().table2, 1, group1);
+void storeFileResults(RunContext& run, const Slots& group1) {
+  storeGroupResults(run.table3, 1, group1);
+  storeGroupResults(run.table2, 1, group1);
 }
 
 }  // namespace zorvik

@@ -8,7 +8,7 @@
 
 #include "base/file_writer.h"
 #include "base/text.h"
-#include "checks/run_state.h"
+#include "run/session.h"
 
 namespace zorvik {
 
@@ -141,8 +141,7 @@ void writeSetting(const std::string& key, const std::string& value) {
   });
 }
 
-void readSettings() {
-  RunState& state = runState();
+void readSettings(Session& state) {
   state.lasFile = readSetting("lasFile", "");
   state.writeLog = optionIsOn(readSetting("writeLog", ""));
   state.doWrap = optionIsOn(readSetting("doWrap", ""));
@@ -150,17 +149,14 @@ void readSettings() {
   if (state.repairChoice < 0 || state.repairChoice > 2) state.repairChoice = 0;
 }
 
-void saveSettings() {
-  const RunState& state = runState();
-  if (state.batchMode) return;
+void saveSettings(const Session& state) {
   writeSetting("lasFile", state.lasFile);
   writeSetting("writeLog", state.writeLog ? "-1" : "0");
   writeSetting("doWrap", state.doWrap ? "-1" : "0");
 }
 
-void saveLasFileSetting() {
-  if (runState().batchMode) return;
-  writeSetting("lasFile", runState().lasFile);
+void saveLasFileSetting(const std::string& lasFile) {
+  writeSetting("lasFile", lasFile);
 }
 
 }  // namespace zorvik

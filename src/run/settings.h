@@ -11,18 +11,20 @@
 
 namespace zorvik {
 
+struct Session;
+
 // Path of the settings file; "" when neither variable names a home for it.
 std::string settingsPath();
 
-// Fills the run state's lasFile, writeLog and doWrap from the store, sets showDetails on and puts
+// Fills the session's lasFile, writeLog and doWrap from the store, sets showDetails on and puts
 // an out-of-range repair choice back to 0. Only "-1" (as a leading number) turns an option on.
-void readSettings();
+void readSettings(Session& session);
 
-// Stores lasFile, writeLog and doWrap; does nothing while the batch-mode flag is set.
-void saveSettings();
+// Stores lasFile, writeLog and doWrap (the window does this; batch runs never do).
+void saveSettings(const Session& session);
 
 // Stores only the lasFile key (the window does this when a file is opened for certification).
-void saveLasFileSetting();
+void saveLasFileSetting(const std::string& lasFile);
 
 // One value of section [Startup]; `fallback` when the key or the store is missing.
 std::string readSetting(const std::string& key, const std::string& fallback);

@@ -9,19 +9,14 @@
 #include "base/fault.h"
 #include "base/file_helpers.h"
 #include "base/text.h"
-#include "checks/run_state.h"
 #include "run/batch_mode.h"
+#include "run/session.h"
 #include "run/settings.h"
 #include "run/tool.h"
 
 namespace zorvik {
 
 namespace {
-
-WindowLauncher& launcher() {
-  static WindowLauncher registered = nullptr;
-  return registered;
-}
 
 // The words of the command line are the arguments as the process received them, one word each:
 // the shell has split them already, so a quoted name with blanks stays one word.
@@ -62,162 +57,93 @@ bool sameFile(const std::string& a, const std::string& b) {
   return std::filesystem::equivalent(a, b, ec) && !ec;
 }
 
-// Where the steps of start-up go next.
-enum class Next { Step, WindowMode, Handler };
-
-int showWindow(int argc, char** argv, const std::string& lasFile = "") {
-  if (launcher() != nullptr) return launcher()(argc, argv, lasFile);
+int showWindow(int argc, char** argv, const Session& session, const std::string& lasFile,
+               WindowLauncher window) {
+  if (window != nullptr) return window(argc, argv, session, lasFile);
   std::fputs("zorvik: this build has no window; try zorvik --help\n", stderr);
   return 0;
 }
 
+// Command-log entries of start-up carry the session's files and status line as they stand.
+void log(const Session& session, const std::string& message) {
+  writeCommandLog(CommandLogHeader{session.lasFile, session.logFile, session.statusLine}, message);
+}
+
+// The batch form's files and options from its words, each refusal logged. False when the run
+// cannot go on. Word 1 must exist: a missing one is the "Subscript out of range" fault.
+bool readBatchWords(const std::vector<std::string>& words, Session& session) {
+  const std::string word0 = withoutQuotes(words.at(0));
+  const std::string word1 = withoutQuotes(words.at(1));
+  if (!fileExists(word0)) {
+    log(session,
+        "Error:LAS file name, " + word0 + ", is not a valid file name or file is not accessible.");
+    return false;
+  }
+  // The extension test looks at the name remembered from the last window session, not at word 0:
+  // only a remembered ".las" name lets batch runs through.
+  const std::string& remembered = session.lasFile;
+  std::size_t at = ifind(remembered, ".las");
+  bool lasName = at != 0 && remembered.size() - at == 3;
+  session.lasFile = lasName ? word0 : "";
+  if (session.lasFile.empty()) {
+    log(session, "Error:Supplied LAS file name, " + word0 + ", must have a .las extension.");
+    return false;
+  }
+
+  session.doWrap = hasWrapOption(words);
+  session.logFile = word1;
+  // The writability test opens nothing, but never let a log file stand for the LAS file itself
+  // (the same-name test below refuses that run anyway).
+  if (!sameFile(session.logFile, session.lasFile) && !logFileWritable(session.logFile)) {
+    log(session, "Error:Log file name, " + session.logFile +
+                     " is not a valid file name or could not be opened where indicated. Log "
+                     "file was written as LAS filename with .log extension to LAS file path.");
+    session.logFile = changeExtension(session.lasFile, "log");
+  }
+  if (sameFile(session.lasFile, session.logFile)) {
+    log(session,
+        "Error: LAS file name and Log file are the same. Log file must be different. No "
+        "processing is possible");
+    return false;
+  }
+  return true;
+}
+
 }  // namespace
 
-void setWindowLauncher(WindowLauncher registered) {
-  launcher() = registered;
+int openWindow(int argc, char** argv, const std::string& lasFile, WindowLauncher window) {
+  Session session;
+  readSettings(session);
+  return showWindow(argc, argv, session, lasFile, window);
 }
 
-int openWindow(int argc, char** argv, const std::string& lasFile) {
-  RunState& state = runState();
-  resetRunState();
-  state.helpFile = programFolder() + "/zorvik.hlp";
-  readSettings();
-  state.batchMode = false;
-  return showWindow(argc, argv, lasFile);
-}
-
-int startUp(int argc, char** argv) {
+int startUp(int argc, char** argv, WindowLauncher window) {
   // The tool is decided on the first word as the shell gave it, before anything of the batch
   // form (command log, settings) is touched.
-  if (argc > 1 && isToolWord(argv[1])) return runTool(argc, argv);
+  if (argc > 1 && isToolWord(argv[1])) return runTool(argc, argv, window);
 
-  RunState& state = runState();
   const std::vector<std::string> words = commandWordsOf(argc, argv);
   const std::string commandLine = commandLineOf(words);
-
-  // The statements of start-up, numbered so that a fault can resume after the one that failed.
-  auto step = [&](int number) -> Next {
-    switch (number) {
-      case 2:
-        resetRunState();  // also the single empty command-line word and the empty tables
-        return Next::Step;
-      case 3:
-        state.helpFile = programFolder() + "/zorvik.hlp";
-        return Next::Step;
-      case 4:
-        state.dialect.version = NO_VERSION;
-        state.lasFile.clear();
-        state.spareText.clear();
-        return Next::Step;
-      case 5:
-        readSettings();
-        return Next::Step;
-      case 6:
-        if (iequals(commandLine, "")) {
-          state.batchMode = false;
-          return Next::WindowMode;
-        }
-        return Next::Step;
-      case 7:
-        state.batchMode = true;
-        return Next::Step;
-      case 9:
-        writeCommandLog("Command line :" + commandLine);
-        return Next::Step;
-      case 10:
-        state.commandWords = words;
-        return Next::Step;
-      case 11:
-        state.commandWords.at(0) = withoutQuotes(state.commandWords.at(0));
-        state.commandWords.at(1) = withoutQuotes(state.commandWords.at(1));
-        return Next::Step;
-      case 12: {  // with 13, its "otherwise" branch
-        const std::string& word0 = state.commandWords.at(0);
-        if (!fileExists(word0)) {
-          writeCommandLog("Error:LAS file name, " + word0 +
-                          ", is not a valid file name or file is not accessible.");
-          return Next::Handler;
-        }
-        // The extension test looks at the name remembered from the last window session, not at
-        // word 0: only a remembered ".las" name lets batch runs through.
-        const std::string& remembered = state.lasFile;
-        std::size_t at = ifind(remembered, ".las");
-        bool lasName = at != 0 && remembered.size() - at == 3;
-        state.lasFile = lasName ? word0 : "";
-        if (state.lasFile.empty()) {
-          writeCommandLog("Error:Supplied LAS file name, " + word0 +
-                          ", must have a .las extension.");
-          return Next::Handler;
-        }
-        return Next::Step;
-      }
-      case 14:
-        state.doWrap = hasWrapOption(words);
-        return Next::Step;
-      case 15:
-        state.logFile = state.commandWords.at(1);
-        return Next::Step;
-      case 16:
-        // The writability test empties and deletes its file; never let it touch the LAS file
-        // itself (the same-name test below refuses that run anyway).
-        if (!sameFile(state.logFile, state.lasFile) && !logFileWritable(state.logFile)) {
-          writeCommandLog("Error:Log file name, " + state.logFile +
-                          " is not a valid file name or could not be opened where indicated. Log "
-                          "file was written as LAS filename with .log extension to LAS file path.");
-          state.logFile = changeExtension(state.lasFile, "log");
-        }
-        return Next::Step;
-      case 17:
-        if (sameFile(state.lasFile, state.logFile)) {
-          writeCommandLog(
-              "Error: LAS file name and Log file are the same. Log file must be different. No "
-              "processing is possible");
-          return Next::Handler;
-        }
-        return Next::Step;
-      default:
-        return Next::Step;
-    }
-  };
-
-  // The failure handler: one entry naming the fault (none after an explicit jump, which gives
-  // the "Error #0" entry); "Path not found" resumes after the failing statement, anything else
-  // ends start-up.
-  auto handle = [&](const Fault& fault) -> bool {
-    writeCommandLog(handlerMessage("main", fault));
-    if (fault.number == FAULT_PATH_NOT_FOUND) {
-      state.lasFile.clear();
-      return true;
-    }
-    return false;
-  };
-
-  for (int number = 2; number <= 17; ++number) {
-    Next next = Next::Step;
-    try {
-      next = step(number);
-    } catch (...) {
-      if (handle(currentFault())) continue;
-      return 0;
-    }
-    if (next == Next::Handler) {
-      handle(Fault{});
-      return 0;
-    }
-    if (next == Next::WindowMode) break;
-  }
-
+  Session session;
+  // Every fault of start-up ends it with one entry naming the fault; a refusal that was logged
+  // already ends it with the "Error #0" entry.
   try {
-    if (state.batchMode) {
-      doBatchMode();
+    readSettings(session);
+    if (commandLine.empty()) {
+      showWindow(argc, argv, session, "", window);
       return 0;
     }
-    showWindow(argc, argv);
-    return 0;
+
+    log(session, "Command line :" + commandLine);
+    if (!readBatchWords(words, session)) {
+      log(session, handlerMessage("main", Fault{}));
+      return 0;
+    }
+    doBatchMode(session);
   } catch (...) {
-    handle(currentFault());
-    return 0;
+    log(session, handlerMessage("main", currentFault()));
   }
+  return 0;
 }
 
 }  // namespace zorvik

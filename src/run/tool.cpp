@@ -166,7 +166,7 @@ int runConvert(const std::vector<std::string>& words) {
   return convertCommand(*file, options.value("output").value_or(""), titles == "log", separator);
 }
 
-int runGui(int argc, char** argv, const std::vector<std::string>& words) {
+int runGui(int argc, char** argv, const std::vector<std::string>& words, WindowLauncher window) {
   ParsedOptions options;
   if (auto done = readOptions(*findCommand("gui"), words, options)) return *done;
   if (options.operands.size() > 1) return usageError("gui", "give at most one LAS file");
@@ -178,7 +178,7 @@ int runGui(int argc, char** argv, const std::vector<std::string>& words) {
       return usageError("gui", "no such file: " + options.operands.front());
     file = absolute.lexically_normal().string();
   }
-  return openWindow(argc > 0 ? 1 : 0, argv, file);
+  return openWindow(argc > 0 ? 1 : 0, argv, file, window);
 }
 
 }  // namespace
@@ -261,7 +261,7 @@ std::string manualPage() {
   return page;
 }
 
-int runTool(int argc, char** argv) {
+int runTool(int argc, char** argv, WindowLauncher window) {
   std::vector<std::string> words(argv + 1, argv + argc);
   const std::string first = words.front();
   std::vector<std::string> rest(words.begin() + 1, words.end());
@@ -281,7 +281,7 @@ int runTool(int argc, char** argv) {
   }
   if (first == "repair") return runRepair(rest);
   if (first == "convert") return runConvert(rest);
-  if (first == "gui") return runGui(argc, argv, rest);
+  if (first == "gui") return runGui(argc, argv, rest, window);
   if (first == "help") return runHelp(rest);
   return usageError("", "unknown option " + first);
 }

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "run/startup.h"
+
 namespace zorvik {
 
 // Exit statuses of the tool.
@@ -19,8 +21,8 @@ inline constexpr int EXIT_TROUBLE = 2;  // a usage error, or a file that could n
 bool isToolWord(std::string_view firstWord);
 
 // Runs the tool on the process's words (argv[1] is the command or an option); answers the exit
-// status. argc and argv go on to the window for `zorvik gui`.
-int runTool(int argc, char** argv);
+// status. argc and argv go on to `window` for `zorvik gui`.
+int runTool(int argc, char** argv, WindowLauncher window);
 
 struct ParsedOptions;
 

@@ -9,8 +9,7 @@
 
 #include "base/in_place.h"
 #include "base/text.h"
-#include "checks/run_state.h"
-#include "checks/window_ops.h"
+#include "checks/run_observer.h"
 #include "las/header_line.h"
 #include "las/line_reader.h"
 #include "las/lines.h"
@@ -21,12 +20,13 @@ namespace zorvik {
 
 namespace {
 
-void reportUnwrapFailure(const std::string& systemText) {
-  if (WindowOps* window = runState().window)
-    window->showCritical("Un-expected Error",
-                         "An unknown error has occured while converting the file. The file "
-                         "conversion is likely incomplete. The system error message was: \r\n\r\n" +
-                             systemText);
+void reportUnwrapFailure(RunObserver* observer, const std::string& systemText) {
+  if (observer != nullptr)
+    observer->showCritical(
+        "Un-expected Error",
+        "An unknown error has occured while converting the file. The file "
+        "conversion is likely incomplete. The system error message was: \r\n\r\n" +
+            systemText);
 }
 
 // Reads the header (everything up to and including the data title line) and gives it back with
@@ -68,7 +68,8 @@ bool readHeaderUnwrapped(LineReader& in, std::string& header, std::int64_t& data
   return true;
 }
 
-void writeUnwrapped(const std::string& source, int linesPerRecord, FileSink& out) {
+void writeUnwrapped(const std::string& source, int linesPerRecord, RunObserver* observer,
+                    FileSink& out) {
   LineReader in(source);
   if (!in.isOpen()) return out.abandon("the file could not be read", errno);
 
@@ -102,10 +103,10 @@ void writeUnwrapped(const std::string& source, int linesPerRecord, FileSink& out
       out.write("\r\n");
       taken = 0;
       int percent = in.length() > 0 ? static_cast<int>(in.position() * 100 / in.length()) : 100;
-      if (percent != lastPercent && runState().window != nullptr) {
+      if (percent != lastPercent && observer != nullptr) {
         lastPercent = percent;
-        runState().window->setProgress(percent, std::string());
-        runState().window->processEvents();
+        observer->setProgress(percent, std::string());
+        observer->processEvents();
       }
     }
   }
@@ -125,19 +126,23 @@ void writeUnwrapped(const std::string& source, int linesPerRecord, FileSink& out
 
 }  // namespace
 
-bool unwrapFile(const std::string& source, const std::string& destination) {
+bool unwrapFile(const std::string& source, const std::string& destination, RunObserver* observer) {
   if (fileLength(source) < 0) return false;
-  locateStandardSections(
-      source, runState().dialect,
-      runState().sections);  // the wrap analysis reads the section index of this file
+  // Only 1.2 and 2.0 files wrap their data.
+  Dialect dialect;
+  dialect.version = 2.0f;
+  SectionIndex sections;
+  locateStandardSections(source, dialect, sections);
   int linesPerRecord = 0;
   int bufferLength = 0;
   int channels = 0;
-  if (analyseWrap(source, linesPerRecord, bufferLength, channels, 0) != WRAP_WRAPPED) return true;
+  if (analyseWrap(source, dialect, sections, observer, linesPerRecord, bufferLength, channels, 0) !=
+      WRAP_WRAPPED)
+    return true;
 
   std::error_code ec;
   bool inPlace = source == destination || std::filesystem::equivalent(source, destination, ec);
-  auto produce = [&](FileSink& sink) { writeUnwrapped(source, linesPerRecord, sink); };
+  auto produce = [&](FileSink& sink) { writeUnwrapped(source, linesPerRecord, observer, sink); };
   std::string failure;
   try {
     if (inPlace) {
@@ -153,7 +158,7 @@ bool unwrapFile(const std::string& source, const std::string& destination) {
     failure = e.what();
   }
   if (!failure.empty()) {
-    reportUnwrapFailure(failure);
+    reportUnwrapFailure(observer, failure);
     return false;
   }
   return true;

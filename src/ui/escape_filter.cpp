@@ -3,17 +3,16 @@
 #include <QKeyEvent>
 #include <QWidget>
 
-#include "checks/run_state.h"
-
 namespace zorvik {
 
-EscapeFilter::EscapeFilter(QWidget* window) : QObject(window), window_(window) {}
+EscapeFilter::EscapeFilter(QWidget* window, std::function<void()> onEscape)
+    : QObject(window), window_(window), onEscape_(std::move(onEscape)) {}
 
 bool EscapeFilter::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress &&
       static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
     const auto* widget = qobject_cast<QWidget*>(watched);
-    if (widget != nullptr && widget->window() == window_) runState().escapePressed = true;
+    if (widget != nullptr && widget->window() == window_) onEscape_();
   }
   return QObject::eventFilter(watched, event);
 }

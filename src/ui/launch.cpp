@@ -1,9 +1,10 @@
-// Registers the main window with start-up, which opens it when the command line is empty.
-// Linked into the program itself, so the registration runs before start-up does.
+// The program with its window: start-up opens the window when the command line is empty (or for
+// `zorvik gui`); every other command line runs as in the program without one.
 #include <QApplication>
 #include <QTimer>
 #include <cstdio>
 
+#include "run/session.h"
 #include "run/startup.h"
 #include "ui/main_window.h"
 
@@ -16,7 +17,7 @@ bool displayAvailable() {
          !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
-int runWindow(int argc, char** argv, const std::string& lasFile) {
+int runWindow(int argc, char** argv, const zorvik::Session& session, const std::string& lasFile) {
   if (!displayAvailable()) {
     std::fputs(
         "zorvik: no display to open the window on; give a LAS file and a log file to "
@@ -26,13 +27,15 @@ int runWindow(int argc, char** argv, const std::string& lasFile) {
   }
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Zorvik"));
-  zorvik::CertifyWindow window;
+  zorvik::CertifyWindow window(zorvik::desktopServices(), session);
   window.show();
   if (!lasFile.empty())
     QTimer::singleShot(0, &window, [&window, &lasFile] { window.openGivenFile(lasFile); });
   return QApplication::exec();
 }
 
-const bool registered = (zorvik::setWindowLauncher(runWindow), true);
-
 }  // namespace
+
+int main(int argc, char** argv) {
+  return zorvik::startUp(argc, argv, runWindow);
+}

@@ -29,7 +29,6 @@
 #include "base/command_log.h"
 #include "base/file_helpers.h"
 #include "checks/report.h"
-#include "checks/run_state.h"
 #include "run/interactive_run.h"
 #include "run/settings.h"
 #include "transform/convert.h"
@@ -74,26 +73,24 @@ QAction* addItem(QMenu* menu, const QString& name, int index, const char* captio
 
 }  // namespace
 
-CertifyWindow::CertifyWindow(WindowServices services, QWidget* parent)
-    : QMainWindow(parent), services_(std::move(services)) {
+CertifyWindow::CertifyWindow(WindowServices services, Session session, QWidget* parent)
+    : QMainWindow(parent), services_(std::move(services)), session_(std::move(session)) {
   setObjectName(QStringLiteral("certify"));
   setWindowTitle(QStringLiteral("Zorvik"));
   model_ = new ResultModel(this);
-  model_->setShowDetails(runState().showDetails);
+  model_->setShowDetails(session_.showDetails);
   buildControls();
   buildMenus();
   buildStatusPanels();
   showOptionStates();
 
-  escapeFilter_ = new EscapeFilter(this);
+  escapeFilter_ = new EscapeFilter(this, [this] { cancelRequested_ = true; });
   qApp->installEventFilter(escapeFilter_);
-  runState().window = this;
   resize(900, 640);
 }
 
 CertifyWindow::~CertifyWindow() {
   qApp->removeEventFilter(escapeFilter_);
-  if (runState().window == this) runState().window = nullptr;
   if (busyPointer_) QApplication::restoreOverrideCursor();
 }
 
@@ -269,9 +266,9 @@ void CertifyWindow::buildMenus() {
     opt_[i]->setCheckable(true);
     connect(opt_[i], &QAction::triggered, this, &CertifyWindow::optionsChanged);
   }
-  opt_[0]->setChecked(runState().doWrap);
-  opt_[1]->setChecked(runState().showDetails);
-  opt_[2]->setChecked(runState().writeLog);
+  opt_[0]->setChecked(session_.doWrap);
+  opt_[1]->setChecked(session_.showDetails);
+  opt_[2]->setChecked(session_.writeLog);
   connect(opt_[3], &QAction::triggered, this, &CertifyWindow::attemptRepair);
 
   QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
@@ -326,7 +323,7 @@ void CertifyWindow::buildStatusPanels() {
 }
 
 void CertifyWindow::showOptionStates() {
-  const RunState& state = runState();
+  const Session& state = session_;
   stat_[0]->setText(state.doWrap ? QStringLiteral("Do Wrap") : QStringLiteral("No Wrap"));
   stat_[1]->setText(state.writeLog ? QStringLiteral("Log File") : QStringLiteral("No Log"));
   stat_[2]->setText(repairCaption(state.repairChoice));
@@ -339,7 +336,7 @@ void CertifyWindow::setTitle(const std::string& title) {
 }
 
 void CertifyWindow::setStatusLine(const std::string& text) {
-  runState().statusLine = text;
+  session_.statusLine = text;
   statusLine_->setText(fromStd(text));
 }
 
@@ -361,7 +358,7 @@ void CertifyWindow::enableResultTabs(bool enabled) {
 }
 
 void CertifyWindow::fillResultGrid(const CheckTable& table) {
-  model_->setShowDetails(runState().showDetails);
+  model_->setShowDetails(session_.showDetails);
   model_->showTable(table);
   errAt_->clear();
   // Groups open, and failed checks too; the first failed check (else the first check) is
@@ -427,9 +424,9 @@ void CertifyWindow::certify(bool newFile) {
   if (certifying_) return;
   certifying_ = true;
   if (newFile) {
-    doCertifyWork();
+    doCertifyWork(session_, lastRun_, this);
   } else {
-    runInteractive();
+    runInteractive(session_, lastRun_, this);
   }
   certifying_ = false;
   setBusyPointer(false);
@@ -438,27 +435,27 @@ void CertifyWindow::certify(bool newFile) {
 void CertifyWindow::openLasForCertification() {
   if (certifying_) return;
   removeTemporaryFiles();
-  const QString chosen = services_.chooseLasFile(this, fromStd(runState().lasFile));
+  const QString chosen = services_.chooseLasFile(this, fromStd(session_.lasFile));
   if (chosen.isEmpty()) return;
-  runState().lasFile = toStd(QDir::toNativeSeparators(chosen));
+  session_.lasFile = toStd(QDir::toNativeSeparators(chosen));
   certify(true);
 }
 
 void CertifyWindow::openGivenFile(const std::string& lasFile) {
   if (certifying_) return;
   removeTemporaryFiles();
-  runState().lasFile = lasFile;
+  session_.lasFile = lasFile;
   certify(true);
 }
 
 void CertifyWindow::repeatCertification() {
-  if (!fileExists(runState().lasFile)) return;
+  if (!fileExists(session_.lasFile)) return;
   certify(false);
 }
 
 void CertifyWindow::editLas() {
-  if (runState().lasFile.empty()) return;
-  openDocument(fromStd(runState().lasFile));
+  if (session_.lasFile.empty()) return;
+  openDocument(fromStd(session_.lasFile));
 }
 
 void CertifyWindow::openDocument(const QString& pathOrUrl) {
@@ -471,14 +468,14 @@ void CertifyWindow::openDocument(const QString& pathOrUrl) {
 }
 
 void CertifyWindow::printResult() {
-  const QString report = fromStd(buildReport(reportTable()));
+  const QString report = fromStd(buildReport(lastRun_));
   if (services_.hasPrinter()) {
     QPrinter printer(QPrinter::HighResolution);
     printText(report, printer);
     return;
   }
   // No printer on this system: offer the result as a PDF file instead.
-  const QString proposed = fromStd(changeExtension(runState().lasFile, "pdf"));
+  const QString proposed = fromStd(changeExtension(session_.lasFile, "pdf"));
   const QString pdf = services_.chooseSaveFile(
       this, QStringLiteral("No printer found: save the certification result as PDF"), proposed,
       QStringLiteral("PDF files (*.pdf)"));
@@ -490,11 +487,11 @@ void CertifyWindow::printResult() {
 }
 
 void CertifyWindow::updateJustCertifiedCaption() {
-  justCertified_->setText(fromStd(justCertifiedCaption(runState().dialect.version)));
+  justCertified_->setText(fromStd(justCertifiedCaption(lastRun_.dialect.version)));
 }
 
 void CertifyWindow::viewStandardsDocument(int item) {
-  const std::string document = standardsDocument(item, runState().dialect.version);
+  const std::string document = standardsDocument(item, lastRun_.dialect.version);
   const QString path = programFile(fromStd(document));
   if (!QFileInfo::exists(path)) {
     message(QMessageBox::Information, QStringLiteral("File Not Found"),
@@ -505,18 +502,18 @@ void CertifyWindow::viewStandardsDocument(int item) {
 }
 
 void CertifyWindow::optionsChanged() {
-  RunState& state = runState();
+  Session& state = session_;
   state.doWrap = opt_[0]->isChecked();
   state.showDetails = opt_[1]->isChecked();
   state.writeLog = opt_[2]->isChecked();
   model_->setShowDetails(state.showDetails);
   showOptionStates();
-  saveSettings();
+  saveSettings(session_);
 }
 
 void CertifyWindow::attemptRepair() {
   if (certifying_) return;
-  RunState& state = runState();
+  Session& state = session_;
   if (state.lasFile.empty() || !fileExists(state.lasFile)) return;
   if (!askYesNo("Attempt Repair", "Repair " + state.lasFile +
                                       "?\r\n\r\nThe file will be replaced by its repaired copy."))
@@ -532,15 +529,15 @@ void CertifyWindow::attemptRepair() {
   };
 
   // The grid shows the certification of the file as it is: its failing rows start the rounds.
-  if (!isVersion3()) request.found = failingRows(state.table2);
+  if (!lastRun_.isV3()) request.found = failingRows(lastRun_.table2);
   RepairResult result;
   try {
     result = repairInRounds(request, [this, &state]() -> std::optional<std::vector<CatalogueRow>> {
       state.repairChoice = 2;
       showOptionStates();
-      runInteractive();
-      if (isVersion3()) return std::nullopt;
-      return failingRows(state.table2);
+      runInteractive(state, lastRun_, this);
+      if (lastRun_.isV3()) return std::nullopt;
+      return failingRows(lastRun_.table2);
     });
   } catch (const std::exception&) {
     result.outcome = RepairOutcome::Failed;
@@ -586,11 +583,11 @@ void CertifyWindow::about() {
 void CertifyWindow::convert() {
   if (certifying_) return;
   const QString output = services_.chooseSaveFile(this, QStringLiteral("Convert!"),
-                                                  fromStd(version3FileName(runState().lasFile)),
+                                                  fromStd(version3FileName(session_.lasFile)),
                                                   QStringLiteral("Log Ascii Standard (*.las)"));
   if (output.isEmpty()) return;
   ConvertRequest request;
-  request.input = runState().lasFile;
+  request.input = session_.lasFile;
   request.output = toStd(output);
   request.titles = logOpt_->checkedId() == 1 ? LogSectionTitles::LogPrefixed
                                              : LogSectionTitles::ParameterCurveAscii;
@@ -608,8 +605,8 @@ void CertifyWindow::convert() {
           QStringLiteral("The version 3.0 file was written to %1\n\n%2")
               .arg(output, fromStd(describeChanges(result.changes))));
   // The converted file becomes the current one, so its certification is what the window shows.
-  runState().lasFile = result.output;
-  doCertifyWork();
+  session_.lasFile = result.output;
+  doCertifyWork(session_, lastRun_, this);
 }
 
 void CertifyWindow::testNow() {
@@ -651,8 +648,8 @@ bool CertifyWindow::eventFilter(QObject* watched, QEvent* event) {
     const QPoint global = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
     if (watched == tBut_[3]) {
       // With the log option on, the edit button's right click opens the run's log file.
-      if (runState().writeLog && !runState().lasFile.empty())
-        openDocument(fromStd(changeExtension(runState().lasFile, "log")));
+      if (session_.writeLog && !session_.lasFile.empty())
+        openDocument(fromStd(changeExtension(session_.lasFile, "log")));
       return true;
     }
     if (watched == fg_->viewport() || watched == errAt_->viewport()) {
@@ -670,7 +667,7 @@ void CertifyWindow::closeEvent(QCloseEvent* event) {
     return;
   }
   removeTemporaryFiles();
-  saveSettings();
+  saveSettings(session_);
   for (QWidget* other : QApplication::topLevelWidgets())
     if (other != this && other->isWindow() && other->isVisible()) other->close();
   event->accept();

@@ -10,7 +10,9 @@
 #include <QMainWindow>
 #include <array>
 
-#include "checks/window_ops.h"
+#include "checks/run_context.h"
+#include "run/session.h"
+#include "run/window_ops.h"
 #include "ui/window_services.h"
 
 class QAction;
@@ -34,11 +36,16 @@ class CertifyWindow : public QMainWindow, public WindowOps {
   Q_OBJECT
 
  public:
-  explicit CertifyWindow(WindowServices services = desktopServices(), QWidget* parent = nullptr);
+  explicit CertifyWindow(WindowServices services = desktopServices(), Session session = {},
+                         QWidget* parent = nullptr);
   ~CertifyWindow() override;
 
   ResultModel* resultModel() const { return model_; }
   bool certifying() const { return certifying_; }
+  // The files and options in hand, and the context of the last certification (its tables feed
+  // the grid, print and copy).
+  Session& session() { return session_; }
+  const RunContext& lastRun() const { return lastRun_; }
 
   // WindowOps: what a certification run shows and asks.
   void setTitle(const std::string& title) override;
@@ -51,6 +58,8 @@ class CertifyWindow : public QMainWindow, public WindowOps {
   bool askOkCancel(const std::string& title, const std::string& text) override;
   void showCritical(const std::string& title, const std::string& text) override;
   void processEvents() override;
+  bool cancelRequested() const override { return cancelRequested_; }
+  void clearCancelRequest() override { cancelRequested_ = false; }
   void setBusyPointer(bool busy) override;
 
  public slots:
@@ -95,6 +104,9 @@ class CertifyWindow : public QMainWindow, public WindowOps {
       QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
 
   WindowServices services_;
+  Session session_;
+  RunContext lastRun_;
+  bool cancelRequested_ = false;  // Escape pressed while the window had the focus
   EscapeFilter* escapeFilter_ = nullptr;
   ResultModel* model_ = nullptr;
   bool certifying_ = false;

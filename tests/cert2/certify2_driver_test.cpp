@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "cert2/certify2.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "support/fake_window.h"
 #include "support/scratch.h"
 
@@ -37,37 +37,40 @@ int play(int group, Slots& slots) {
 
 Certify2Checks scriptedChecks() {
   Certify2Checks c{};
-  c.versionSection = [](const ParamTable&, std::string& wrap, Slots& s) {
+  c.versionSection = [](RunContext&, const ParamTable&, std::string& wrap, Slots& s) {
     wrap = "NO";
     return play(2, s);
   };
-  c.sectionStructure = [](const std::string&, Slots& s) { return play(3, s); };
-  c.lineSyntax = [](const std::string&, const std::string&, const ParamTable&, Slots& s, int&,
-                    int&) { return play(4, s); };
+  c.sectionStructure = [](RunContext&, Slots& s) { return play(3, s); };
+  c.lineSyntax = [](RunContext&, const std::string&, const ParamTable&, Slots& s, int&, int&) {
+    return play(4, s);
+  };
   c.wellMnemonics = [](const ParamTable&, CheckTable&, Slots& s) { return play(5, s); };
-  c.indexRange = [](const std::string&, const WellRange&, const std::string&, const ParamTable&,
+  c.indexRange = [](RunContext&, const WellRange&, const std::string&, const ParamTable&,
                     const ParamTable&, Slots& s) { return play(6, s); };
-  c.asciiSection = [](const std::string&, const std::string&, int, int, const ParamTable&,
-                      Slots& s) { return play(7, s); };
+  c.asciiSection = [](RunContext&, const std::string&, int, int, const ParamTable&, Slots& s) {
+    return play(7, s);
+  };
   return c;
 }
 
 // Runs the scripted checks on a small file; gives the run in one line: the groups called, the
 // group.row results holding text (and notes), how it ended and the command log messages ("2 3 |
 // 3.1 | fault Error: ...").
-std::string runScript(const testing::RunSandbox& sandbox, bool dataSections) {
+std::string runScript(const testing::RunSandbox& sandbox, RunContext& run, bool dataSections) {
   std::string text = "~Version\r\nVERS. 2.0 :\r\nWRAP. NO :\r\n~Well\r\nSTRT.M 1 :\r\n";
   if (dataSections) text += "~Curve\r\nDEPT.M :\r\n~A\r\n1\r\n2\r\n";
   called.clear();
-  const int status = aaCertify2With(sandbox.dir().write("driver.las", text), scriptedChecks());
+  run.lasFile = sandbox.dir().write("driver.las", text);
+  const int status = aaCertify2With(run, scriptedChecks());
   std::string outcome;
   for (int group : called) outcome += std::to_string(group) + " ";
   outcome += "|";
   for (int group = 2; group <= 7; ++group) {
     for (int row = 1; row <= 15; ++row) {
       const std::string cell = " " + std::to_string(group) + "." + std::to_string(row);
-      if (!runState().table2.at(row, COL_RESULT, group).empty()) outcome += cell;
-      if (!runState().table2.at(row, COL_NOTE, group).empty()) outcome += cell + "(note)";
+      if (!run.table2.at(row, COL_RESULT, group).empty()) outcome += cell;
+      if (!run.table2.at(row, COL_NOTE, group).empty()) outcome += cell + "(note)";
     }
   }
   const char* ends[] = {"completed", "fault", "stopped"};
@@ -112,18 +115,17 @@ TEST(Certify2Driver, RunsRecordsAndStopsByTheRules) {
     window.yesNoAnswer = row.answerYes;
     int events = 0;  // the first after-check is group 2's
     window.onEvents = [&](const std::string&) {
-      if (++events + 1 == row.escapeAt) runState().escapePressed = true;
+      if (++events + 1 == row.escapeAt) window.cancel = true;
     };
-    runState().window = &window;
-    runState().batchMode = row.batch;
-    runState().dialect.version = 2.0f;
-    EXPECT_EQ(runScript(sandbox, row.dataSections), row.outcome);
+    RunContext run;
+    run.observer = row.batch ? nullptr : &window;  // nobody watches a batch run
+    run.dialect.version = 2.0f;
+    EXPECT_EQ(runScript(sandbox, run, row.dataSections), row.outcome);
     const std::string question =
         "Please Confirm!|Do you want to cancel the certification in progress?";
     const int questions = row.escapeAt != 0 && !row.batch ? 1 : 0;
     EXPECT_EQ(window.questions, std::vector<std::string>(questions, question));
-    EXPECT_FALSE(runState().escapePressed && !row.outcome.ends_with("stopped"));
-    runState().window = nullptr;
+    EXPECT_FALSE(window.cancel && !row.outcome.ends_with("stopped"));
   }
 }
 

@@ -13,12 +13,17 @@ namespace {
 
 using testing::LasParts;
 
-int lineSyntax(const LasParts& parts, Slots& slots) {
-  std::string path = testing::prepareLas("data_checks.las", testing::lasBytes(parts));
+int lineSyntax(RunContext& run, const LasParts& parts, Slots& slots) {
+  run = testing::prepareLas("data_checks.las", testing::lasBytes(parts));
   int linesPerRecord = 0;
   int channels = 0;
-  return checkLineSyntax(path, parts.wrap, testing::sectionTable(path, "Curve"), slots,
+  return checkLineSyntax(run, parts.wrap, testing::sectionTable(run, "Curve"), slots,
                          linesPerRecord, channels);
+}
+
+int lineSyntax(const LasParts& parts, Slots& slots) {
+  RunContext run;
+  return lineSyntax(run, parts, slots);
 }
 
 TEST(CheckLineSyntax, FindingsPerSlot) {
@@ -84,11 +89,11 @@ TEST(CheckAsciiSection, WrappedRecords) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     LasParts parts{.data = row.data, .wrap = "YES", .curve = testing::curveLines(3)};
-    std::string path = testing::prepareLas("ascii_checks.las", testing::lasBytes(parts));
-    runState().doWrap = row.wrapChecks;
+    RunContext run = testing::prepareLas("ascii_checks.las", testing::lasBytes(parts));
+    run.doWrap = row.wrapChecks;
     Slots slots;
     slots.fill(" ");  // the check decides all four rows
-    EXPECT_EQ(checkAsciiSection(path, "YES", 2, 3, testing::sectionTable(path, "Curve"), slots),
+    EXPECT_EQ(checkAsciiSection(run, "YES", 2, 3, testing::sectionTable(run, "Curve"), slots),
               row.code);
     EXPECT_EQ(testing::filledSlots(slots, 4), row.slots);
   }
@@ -116,21 +121,22 @@ TEST(ScanLineBytes, AgreesWithTheWordCount) {
 // Codes and slots of groups 6 and 7 after group 4's pass, its kept answers used or dropped; the
 // line length finding (group 7's slot 4) last.
 std::string dataGroups(const std::string& path, const std::string& wrap, bool keep) {
-  resetRunState();
-  runState().dialect.version = 2.0f;
-  runState().doWrap = true;
-  locateStandardSections(path, runState().dialect, runState().sections);
-  ParamTable well = testing::sectionTable(path, "Well");
-  ParamTable curve = testing::sectionTable(path, "Curve");
+  RunContext run;
+  run.lasFile = path;
+  run.dialect.version = 2.0f;
+  run.doWrap = true;
+  locateStandardSections(path, run.dialect, run.sections);
+  ParamTable well = testing::sectionTable(run, "Well");
+  ParamTable curve = testing::sectionTable(run, "Curve");
   Slots slots4, slots6, slots7;
   int linesPerRecord = 0;
   int channels = 0;
-  checkLineSyntax(path, wrap, curve, slots4, linesPerRecord, channels);
-  EXPECT_TRUE(runState().dataScan.valid);
-  if (!keep) runState().dataScan = {};
+  checkLineSyntax(run, wrap, curve, slots4, linesPerRecord, channels);
+  EXPECT_TRUE(run.dataScan.valid);
+  if (!keep) run.dataScan = {};
   std::string text =
-      toText(checkIndexRange(path, testing::wellRangeOf(well), wrap, well, curve, slots6)) +
-      toText(checkAsciiSection(path, wrap, linesPerRecord, channels, curve, slots7));
+      toText(checkIndexRange(run, testing::wellRangeOf(well), wrap, well, curve, slots6, nullptr)) +
+      toText(checkAsciiSection(run, wrap, linesPerRecord, channels, curve, slots7));
   for (int k = 1; k <= 7; ++k) text += "|" + slots6[k];
   for (int k = 1; k <= 4; ++k) text += "|" + slots7[k];
   return text;
@@ -173,13 +179,14 @@ TEST(DataScan, GroupsSixAndSevenReportTheSameFromTheKeptPass) {
 TEST(DataScan, AChangedFileIsReadAgain) {
   LasParts parts{.data = {"1000.0", "1000.5"}};
   Slots slots;
-  lineSyntax(parts, slots);
-  const std::string path = testing::scratchFolder() + "/data_checks.las";
-  std::int64_t start = runState().sections.entries.back().start;
-  ASSERT_NE(keptScan(path, start), nullptr);
+  RunContext run;
+  lineSyntax(run, parts, slots);
+  const std::string& path = run.lasFile;
+  std::int64_t start = run.sections.entries.back().start;
+  ASSERT_NE(keptScan(run.dataScan, path, start), nullptr);
   testing::writeScratchFile("data_checks.las", testing::lasBytes(parts) + "1001.0\r\n");
-  EXPECT_EQ(keptScan(path, start), nullptr);
-  EXPECT_EQ(keptScan(path + "x", start), nullptr);
+  EXPECT_EQ(keptScan(run.dataScan, path, start), nullptr);
+  EXPECT_EQ(keptScan(run.dataScan, path + "x", start), nullptr);
 }
 
 }  // namespace

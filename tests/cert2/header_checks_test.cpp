@@ -8,7 +8,6 @@
 #include "base/text.h"
 #include "cert2/las_parts.h"
 #include "cert2/well_checks.h"
-#include "checks/run_state.h"
 #include "checks/version_checks.h"
 
 namespace zorvik {
@@ -28,11 +27,11 @@ TEST(VersionChecks, FindingsPerRow) {
   };
   for (const auto& [lines, expected] : rows) {
     SCOPED_TRACE(lines[0].second);
-    resetRunState();
-    runState().dialect.version = 2.0f;
-    runState().sections.entries.assign(2, SectionEntry{});
-    runState().sections.entries[0].name = "Version";
-    runState().sections.entries[1].name = "Well";
+    RunContext run;
+    run.dialect.version = 2.0f;
+    run.sections.entries.assign(2, SectionEntry{});
+    run.sections.entries[0].name = "Version";
+    run.sections.entries[1].name = "Well";
     ParamTable table;
     for (const auto& [mnemonic, value] : lines) {
       table.entries.push_back({mnemonic, "", value, "", "", ""});
@@ -41,11 +40,11 @@ TEST(VersionChecks, FindingsPerRow) {
     Slots slots;
     slots.fill("stale");
     std::string outcome;
-    const int result = checkVersionSection(table, outcome, slots);
+    const int result = checkVersionSection(run, table, outcome, slots);
     outcome += "\n" + testing::filledSlots(slots, 15);
     EXPECT_EQ(outcome, expected);
     EXPECT_EQ(result, expected.find(':') == std::string::npos ? CHECK_PASSED : CHECK_FAILED);
-    EXPECT_EQ(runState().dialect.version, 2.0f);
+    EXPECT_EQ(run.dialect.version, 2.0f);
   }
 }
 

@@ -11,6 +11,7 @@
 
 #include "base/text.h"
 #include "cert2/las_parts.h"
+#include "checks/null_stop_repair.h"
 #include "support/batch_run.h"
 #include "support/scratch.h"
 
@@ -64,28 +65,33 @@ TEST(IndexChannel, EndsAndIncrements) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     const std::string wrap = row.linesPerRecord == 1 ? "NO" : "YES";
-    std::string path = prepareLas("index.las", lasBytes({.data = row.data, .wrap = wrap}));
+    RunContext run = prepareLas("index.las", lasBytes({.data = row.data, .wrap = wrap}));
     IndexEnds ends;
-    EXPECT_EQ(readIndexEnds(path, wrap, ends, row.linesPerRecord),
+    EXPECT_EQ(readIndexEnds(run, wrap, ends, row.linesPerRecord),
               row.data.empty() ? INDEX_NO_DATA : INDEX_READ);
     EXPECT_EQ(ends.firstText + " " + ends.lastText + " " + formatShortest(ends.first) + " " +
                   formatShortest(ends.last),
               row.ends);
     if (row.increments.empty()) continue;  // no record length to walk by
     IncrementResult result;
-    const int answer = analyseIncrements(path, row.linesPerRecord, result);
+    const int answer = analyseIncrements(run, row.linesPerRecord, result);
     EXPECT_EQ(
         std::string(answers[answer]) + " " + formatFixed(result.increment) + " " + result.indexText,
         row.increments);
   }
   IncrementResult result;
-  EXPECT_EQ(analyseIncrements("/nonexistent/file.las", 1, result), STEP_UNREADABLE);
+  RunContext missing;
+  missing.lasFile = "/nonexistent/file.las";
+  EXPECT_EQ(analyseIncrements(missing, 1, result), STEP_UNREADABLE);
 }
 
-int checkRange(const std::string& path, Slots& slots) {
-  ParamTable well = testing::sectionTable(path, "Well");
-  ParamTable curve = testing::sectionTable(path, "Curve");
-  return checkIndexRange(path, testing::wellRangeOf(well), "NO", well, curve, slots);
+int checkRange(RunContext& run, const ParamTable& well, const ParamTable& curve, Slots& slots) {
+  return checkIndexRangeRepairing(run, testing::wellRangeOf(well), "NO", well, curve, slots);
+}
+
+int checkRange(RunContext& run, Slots& slots) {
+  return checkRange(run, testing::sectionTable(run, "Well"), testing::sectionTable(run, "Curve"),
+                    slots);
 }
 
 TEST(CheckIndexRange, FindingsPerSlot) {
@@ -121,17 +127,16 @@ TEST(CheckIndexRange, FindingsPerSlot) {
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
-    std::string path = prepareLas("index_range.las", lasBytes(row.parts));
+    RunContext run = prepareLas("index_range.las", lasBytes(row.parts));
     Slots slots;
     slots.fill(" ");
-    EXPECT_EQ(checkRange(path, slots), row.slots.empty() ? CHECK_PASSED : CHECK_FAILED);
+    EXPECT_EQ(checkRange(run, slots), row.slots.empty() ? CHECK_PASSED : CHECK_FAILED);
     EXPECT_EQ(testing::filledSlots(slots, 7), row.slots);
-    EXPECT_FALSE(runState().nullStopRepaired);
+    EXPECT_FALSE(run.nullStopRepaired);
   }
   Slots slots;
-  std::string path =
-      prepareLas("index_range.las", lasBytes({.data = {"10:00:00 1", "10:00:10 1"}}));
-  EXPECT_EQ(checkRange(path, slots), CHECK_NOTHING);  // an index that is no number
+  RunContext run = prepareLas("index_range.las", lasBytes({.data = {"10:00:00 1", "10:00:10 1"}}));
+  EXPECT_EQ(checkRange(run, slots), CHECK_NOTHING);  // an index that is no number
 }
 
 TEST(CheckIndexRange, RepairsANullStopInTheFileOrSaysWhyNot) {
@@ -163,20 +168,20 @@ TEST(CheckIndexRange, RepairsANullStopInTheFileOrSaysWhyNot) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     testing::RunSandbox sandbox;
-    std::string path = prepareLas("null_stop.las", bytes);
-    ParamTable well = testing::sectionTable(path, "Well");
-    ParamTable curve = testing::sectionTable(path, "Curve");
+    RunContext run = prepareLas("null_stop.las", bytes);
+    const std::string& path = run.lasFile;
+    ParamTable well = testing::sectionTable(run, "Well");
+    ParamTable curve = testing::sectionTable(run, "Curve");
     if (row.prepare) row.prepare(path);
     Slots slots;
-    EXPECT_EQ(checkIndexRange(path, testing::wellRangeOf(well), "NO", well, curve, slots),
-              row.result);
-    EXPECT_EQ(runState().nullStopRepaired, row.changed);
+    EXPECT_EQ(checkRange(run, well, curve, slots), row.result);
+    EXPECT_EQ(run.nullStopRepaired, row.changed);
     EXPECT_EQ(testing::readBytes(path), row.changed ? repaired : bytes);
     EXPECT_EQ(testing::commandLogMessages(sandbox.commandLog()),
               replaceAll(row.message, "<las>", path));
     if (row.changed) {
       // The index was rebuilt: the data section starts where the rewritten file has it.
-      EXPECT_EQ(runState().sections.entries.back().start,
+      EXPECT_EQ(run.sections.entries.back().start,
                 static_cast<std::int64_t>(repaired.find("~A\r\n") + 4 + 1));
     }
     ::chmod(path.c_str(), 0644);

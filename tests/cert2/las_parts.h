@@ -7,7 +7,7 @@
 
 #include "checks/check_table.h"
 #include "checks/index_range.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "las/header_line.h"
 #include "las/sections.h"
 #include "support/scratch.h"
@@ -43,18 +43,18 @@ inline std::vector<std::string> curveLines(int count) {
   return lines;
 }
 
-// Writes the file, resets the run state and indexes the file's sections, as a run would.
-inline std::string prepareLas(const std::string& name, const std::string& bytes) {
-  std::string path = writeScratchFile(name, bytes);
-  resetRunState();
-  runState().dialect.version = 2.0f;
-  locateStandardSections(path, runState().dialect, runState().sections);
-  return path;
+// Writes the file and gives the context of a 2.0 run on it, its sections indexed as a run would.
+inline RunContext prepareLas(const std::string& name, const std::string& bytes) {
+  RunContext run;
+  run.lasFile = writeScratchFile(name, bytes);
+  run.dialect.version = 2.0f;
+  locateStandardSections(run.lasFile, run.dialect, run.sections);
+  return run;
 }
 
-inline ParamTable sectionTable(const std::string& path, const std::string& name) {
+inline ParamTable sectionTable(RunContext& run, const std::string& name) {
   ParamTable table;
-  parseSectionTable(path, runState().dialect, runState().sections, table, name);
+  parseSectionTable(run.lasFile, run.dialect, run.sections, table, name);
   return table;
 }
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "checks/catalogue.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "support/batch_run.h"
 #include "support/fake_window.h"
 #include "support/scratch.h"
@@ -19,23 +19,29 @@ const std::string EXAMPLE = std::string(ZORVIK_EXAMPLES) + "/example_30.las";
 // One driver run: a sandboxed program folder and settings store, and a recording window.
 struct DriverRun {
   DriverRun() {
-    runState().dialect.version = 3.0f;
-    runState().window = &window;
-    layOutCatalogue();
+    context.dialect.version = 3.0f;
+    context.observer = &window;
+    layOutCatalogue(context);
   }
-  ~DriverRun() { runState().window = nullptr; }
+
+  // Certifies `file` in this run's context.
+  int certify(const std::string& file) {
+    context.lasFile = file;
+    return aaCertify3(context);
+  }
 
   testing::RunSandbox sandbox;
   testing::FakeWindow window;
+  RunContext context;
 };
 
 // "done" when every row of the group is marked as run, "untouched" when the run left it empty.
-std::string groupState(int group) {
+std::string groupState(const DriverRun& run, int group) {
   bool done = true, untouched = true;
   for (int r = 1; r <= 15; ++r) {
-    const std::string& mark = runState().table3.at(r, COL_MARK, group);
+    const std::string& mark = run.context.table3.at(r, COL_MARK, group);
     done = done && mark == " ";
-    untouched = untouched && mark.empty() && runState().table3.at(r, COL_RESULT, group).empty();
+    untouched = untouched && mark.empty() && run.context.table3.at(r, COL_RESULT, group).empty();
   }
   return done ? "done" : untouched ? "untouched" : "partly";
 }
@@ -47,12 +53,12 @@ TEST(Certify3, RunsEveryGroupReportingProgress) {
   const std::size_t at = text.find("Example Field");
   ASSERT_NE(at, std::string::npos);
   text[at + 7] = '~';
-  EXPECT_EQ(aaCertify3(run.sandbox.dir().write("tilde.las", text)), RUN_COMPLETED);
-  EXPECT_EQ(runState().table3.at(7, COL_RESULT, 0),
+  EXPECT_EQ(run.certify(run.sandbox.dir().write("tilde.las", text)), RUN_COMPLETED);
+  EXPECT_EQ(run.context.table3.at(7, COL_RESULT, 0),
             "Tilde not first non-space character of the line\r\n"
             "FLD.       Example~Field : Field\r\n");
-  EXPECT_FALSE(anyFailure(runState().table3));
-  for (int g : {0, 2, 3, 4, 5, 6, 7, 8, 9}) EXPECT_EQ(groupState(g), "done") << "group " << g;
+  EXPECT_FALSE(anyFailure(run.context.table3));
+  for (int g : {0, 2, 3, 4, 5, 6, 7, 8, 9}) EXPECT_EQ(groupState(run, g), "done") << "group " << g;
   EXPECT_EQ(run.window.percents, (std::vector<int>{0, 22, 33, 44, 56, 67, 78, 89, 100}));
   EXPECT_EQ(run.window.captions.front(), "Doing check 0 (Press ESC to cancel...)");
   EXPECT_EQ(run.window.pointer, (std::vector<bool>{true, false}));
@@ -61,26 +67,25 @@ TEST(Certify3, RunsEveryGroupReportingProgress) {
 
 TEST(Certify3, FileLevelFindingsSurviveAndStopAfterTheVersionChecks) {
   DriverRun run;
-  runState().table3.at(6, COL_RESULT, 1) = "not a .las name";
-  runState().table3.at(6, COL_MARK, 1) = " ";
-  runState().table3.at(3, COL_RESULT, 4) = "left from an earlier run";
-  EXPECT_EQ(aaCertify3(EXAMPLE), RUN_COMPLETED);
-  EXPECT_EQ(runState().table3.at(6, COL_RESULT, 1), "not a .las name");
-  for (int g : {0, 2}) EXPECT_EQ(groupState(g), "done") << "group " << g;
-  for (int g = 3; g <= 9; ++g) EXPECT_EQ(groupState(g), "untouched") << "group " << g;
+  run.context.table3.at(6, COL_RESULT, 1) = "not a .las name";
+  run.context.table3.at(6, COL_MARK, 1) = " ";
+  run.context.table3.at(3, COL_RESULT, 4) = "left from an earlier run";
+  EXPECT_EQ(run.certify(EXAMPLE), RUN_COMPLETED);
+  EXPECT_EQ(run.context.table3.at(6, COL_RESULT, 1), "not a .las name");
+  for (int g : {0, 2}) EXPECT_EQ(groupState(run, g), "done") << "group " << g;
+  for (int g = 3; g <= 9; ++g) EXPECT_EQ(groupState(run, g), "untouched") << "group " << g;
 }
 
 TEST(Certify3, EscapeAndTheCancelQuestion) {
   struct Row {
     const char* what;
-    bool answerYes, suppressed, withWindow;
+    bool answerYes, withWindow;
     int result;
   };
   const Row rows[] = {
-      {"answered Yes", true, false, true, RUN_STOPPED},
-      {"answered No", false, false, true, RUN_COMPLETED},
-      {"question suppressed", true, true, true, RUN_COMPLETED},
-      {"no window to ask", true, false, false, RUN_COMPLETED},
+      {"answered Yes", true, true, RUN_STOPPED},
+      {"answered No", false, true, RUN_COMPLETED},
+      {"no window to ask", true, false, RUN_COMPLETED},
   };
   const std::string question =
       "Please Confirm!|Do you want to cancel the certification in progress?";
@@ -88,34 +93,32 @@ TEST(Certify3, EscapeAndTheCancelQuestion) {
     SCOPED_TRACE(row.what);
     DriverRun run;
     run.window.yesNoAnswer = row.answerYes;
-    runState().suppressCancelQuestion = row.suppressed;
-    if (!row.withWindow) runState().window = nullptr;
-    // Escape pressed once, while group 5 is shown (at once when there is no window).
-    runState().escapePressed = !row.withWindow;
-    run.window.onEvents = [pressed = false](const std::string& caption) mutable {
+    if (!row.withWindow) run.context.observer = nullptr;
+    // Escape pressed once, while group 5 is shown.
+    run.window.onEvents = [&window = run.window,
+                           pressed = false](const std::string& caption) mutable {
       if (pressed || caption != "Doing check 5 (Press ESC to cancel...)") return;
-      pressed = runState().escapePressed = true;
+      pressed = window.cancel = true;
     };
-    EXPECT_EQ(aaCertify3(EXAMPLE), row.result);
-    const bool asked = row.withWindow && !row.suppressed;
-    EXPECT_EQ(run.window.questions, std::vector<std::string>(asked ? 1 : 0, question));
-    EXPECT_EQ(groupState(9), row.result == RUN_COMPLETED ? "done" : "untouched");
-    EXPECT_EQ(runState().escapePressed, row.result == RUN_STOPPED);
+    EXPECT_EQ(run.certify(EXAMPLE), row.result);
+    EXPECT_EQ(run.window.questions, std::vector<std::string>(row.withWindow ? 1 : 0, question));
+    EXPECT_EQ(groupState(run, 9), row.result == RUN_COMPLETED ? "done" : "untouched");
+    EXPECT_EQ(run.window.cancel, row.result == RUN_STOPPED);
     EXPECT_EQ(run.sandbox.commandLog(), "");  // a cancel is no fault
     if (row.result == RUN_STOPPED) {
-      EXPECT_EQ(groupState(5), "done");
-      EXPECT_EQ(groupState(6), "untouched");
+      EXPECT_EQ(groupState(run, 5), "done");
+      EXPECT_EQ(groupState(run, 6), "untouched");
     }
   }
 }
 
 TEST(Certify3, UnreadableFileEndsThroughTheTrap) {
   DriverRun run;
-  EXPECT_EQ(aaCertify3(run.sandbox.dir().file("missing.las")), RUN_FAULT);
+  EXPECT_EQ(run.certify(run.sandbox.dir().file("missing.las")), RUN_FAULT);
   EXPECT_NE(run.sandbox.commandLog().find("Error: VB Error in aaCertify3: . Error #0\r\n"),
             std::string::npos);
-  EXPECT_EQ(groupState(0), "done");
-  EXPECT_EQ(groupState(2), "untouched");
+  EXPECT_EQ(groupState(run, 0), "done");
+  EXPECT_EQ(groupState(run, 2), "untouched");
   EXPECT_EQ(run.window.pointer, (std::vector<bool>{true, false}));
 }
 

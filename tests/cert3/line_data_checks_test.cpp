@@ -10,7 +10,7 @@
 #include "cert3/associations.h"
 #include "cert3/column_data.h"
 #include "cert3/line_structure3.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "checks/section_structure.h"
 #include "las/sections.h"
 #include "support/scratch.h"
@@ -18,7 +18,7 @@
 namespace zorvik {
 namespace {
 
-using Check = std::function<int(const std::string&, Slots&)>;
+using Check = std::function<int(RunContext&, Slots&)>;
 
 // A 3.0 file: ~Version (comma), a two-channel ~Log_Definition and `data` lines.
 std::string lasText(const std::vector<std::string>& data) {
@@ -31,13 +31,14 @@ std::string lasText(const std::vector<std::string>& data) {
 
 // Runs `check` as the driver does, every slot preset to " ".
 Slots runOn(const std::string& path, const Check& check, int& result) {
-  resetRunState();
-  runState().dialect.version = 3.0f;
-  runState().dialect.delimiter = ",";
-  locateStandardSections(path, runState().dialect, runState().sections);
+  RunContext run;
+  run.lasFile = path;
+  run.dialect.version = 3.0f;
+  run.dialect.delimiter = ",";
+  locateStandardSections(path, run.dialect, run.sections);
   Slots slots;
   slots.fill(" ");
-  result = check(path, slots);
+  result = check(run, slots);
   return slots;
 }
 

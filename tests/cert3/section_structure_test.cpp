@@ -5,7 +5,7 @@
 #include <map>
 #include <vector>
 
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "las/sections.h"
 #include "support/scratch.h"
 
@@ -24,10 +24,11 @@ int runStructure(const std::vector<std::string>& titles, Slots& slots) {
   for (const std::string& t : titles) text += t + "\r\n x.  1 : y\r\n";
   testing::ScratchDir dir;
   const std::string path = dir.write("titles.las", text);
-  resetRunState();
-  runState().dialect.version = 3.0f;
-  locateStandardSections(path, runState().dialect, runState().sections);
-  return checkSectionStructure(path, slots);
+  RunContext run;
+  run.lasFile = path;
+  run.dialect.version = 3.0f;
+  locateStandardSections(path, run.dialect, run.sections);
+  return checkSectionStructure(run, slots);
 }
 
 TEST(SectionStructure, ItemsFollowTheTitles) {

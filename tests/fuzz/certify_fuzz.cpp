@@ -44,7 +44,7 @@ class Sandbox {
     }
     std::string program = "zorvik", las = las_, log = log_, wrap = "/W";
     char* argv[] = {program.data(), las.data(), log.data(), wrap.data(), nullptr};
-    zorvik::startUp(4, argv);
+    zorvik::startUp(4, argv, nullptr);
     // The command log only grows; start each input afresh.
     std::error_code ec;
     fs::remove(folder_ / "command.log", ec);

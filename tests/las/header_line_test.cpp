@@ -4,7 +4,8 @@
 
 #include <tuple>
 
-#include "checks/run_state.h"
+#include "las/dialect.h"
+#include "las/section_types.h"
 
 namespace zorvik {
 namespace {
@@ -13,8 +14,9 @@ const std::string kV20 = std::string(ZORVIK_TEST_DATA) + "/las/sections_v20.las"
 
 class HeaderLine : public ::testing::Test {
  protected:
-  void SetUp() override { resetRunState(); }
-  void TearDown() override { resetRunState(); }
+  // What a run would have learnt of the file under test.
+  Dialect dialect_;
+  SectionIndex sections_;
 };
 
 // The mnemonic faults are left to the golden reports. A tab outranks a bad mnemonic; a period
@@ -64,8 +66,8 @@ TEST_F(HeaderLine, MnemonicValidityDependsOnVersion) {
   };
   for (const auto& [version, text, valid] : rows) {
     SCOPED_TRACE(std::string(text) + " in " + std::to_string(version));
-    runState().dialect.version = version;
-    EXPECT_EQ(isValidMnemonic(text, runState().dialect), valid);
+    dialect_.version = version;
+    EXPECT_EQ(isValidMnemonic(text, dialect_), valid);
   }
 }
 
@@ -82,7 +84,7 @@ TEST_F(HeaderLine, CountsWordsAndListEntries) {
 }
 
 TEST_F(HeaderLine, ParameterTableOfASection) {
-  runState().dialect.version = 2.0f;
+  dialect_.version = 2.0f;
   using Entries = std::vector<std::array<std::string, 6>>;
   // "RUN.  1" has no colon of its own but the section's last colon lies further right; with a
   // tab delimiter the tab stays, and the line is no longer well formed.
@@ -93,18 +95,17 @@ TEST_F(HeaderLine, ParameterTableOfASection) {
   tabs[1] = {"MUD", "\tGEL", "", "MUD TYPE", "", ""};
   for (const char* delimiter : {" ", "\t"}) {
     SCOPED_TRACE(std::string("delimiter [") + delimiter + "]");
-    runState().dialect.delimiter = delimiter;
+    dialect_.delimiter = delimiter;
     ParamTable table;
     table.entries.push_back({"stale"});
-    ASSERT_EQ(parseSectionTable(kV20, runState().dialect, runState().sections, table, "Parameter"),
-              -1);
+    ASSERT_EQ(parseSectionTable(kV20, dialect_, sections_, table, "Parameter"), -1);
     EXPECT_EQ(table.validMnemonics(), "RUN MUD BHT ");
     EXPECT_EQ(Entries(table.entries.begin() + 1, table.entries.end()),
               *delimiter == ' ' ? blanks : tabs);
   }
 
   ParamTable table;
-  ASSERT_EQ(parseSectionTable(kV20, runState().dialect, runState().sections, table, "Well"), -1);
+  ASSERT_EQ(parseSectionTable(kV20, dialect_, sections_, table, "Well"), -1);
   EXPECT_EQ(mnemonicValue(table, "null"), "-999.25");
   EXPECT_EQ(mnemonicValue(table, "COMM"), " ");  // commented out
 }

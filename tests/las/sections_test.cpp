@@ -6,7 +6,8 @@
 #include <tuple>
 
 #include "base/text.h"
-#include "checks/run_state.h"
+#include "las/dialect.h"
+#include "las/section_types.h"
 #include "support/batch_run.h"
 #include "support/scratch.h"
 
@@ -28,8 +29,9 @@ std::string writeTitles(std::string_view titles) {
 
 class Sections : public ::testing::Test {
  protected:
-  void SetUp() override { resetRunState(); }
-  void TearDown() override { resetRunState(); }
+  // What a run would have learnt of the file under test.
+  Dialect dialect_;
+  SectionIndex sections_;
 };
 
 // A bar with nothing after it gives a one-blank association, to tell it from no bar at all.
@@ -80,10 +82,10 @@ TEST_F(Sections, IndexOfTitles) {
   };
   for (const auto& [version, titles, expected] : rows) {
     SCOPED_TRACE(titles);
-    runState().dialect.version = version;
-    ASSERT_TRUE(buildSectionIndex(writeTitles(titles), runState().dialect, runState().sections));
+    dialect_.version = version;
+    ASSERT_TRUE(buildSectionIndex(writeTitles(titles), dialect_, sections_));
     std::string index;
-    for (const SectionEntry& e : runState().sections.entries) {
+    for (const SectionEntry& e : sections_.entries) {
       index += (index.empty() ? "" : " ") + e.name + ":" + std::string_view("HDCPO").at(e.role);
       if (!e.association.empty()) index += "|" + e.association;
     }
@@ -92,19 +94,19 @@ TEST_F(Sections, IndexOfTitles) {
 }
 
 TEST_F(Sections, Version3Groups) {
-  runState().dialect.version = 3.0f;
-  ASSERT_TRUE(buildSectionIndex(kV30, runState().dialect, runState().sections));
-  ASSERT_EQ(runState().sections.entries.size(), 10u);
+  dialect_.version = 3.0f;
+  ASSERT_TRUE(buildSectionIndex(kV30, dialect_, sections_));
+  ASSERT_EQ(sections_.entries.size(), 10u);
   // Section numbers (1-based) of data, definition and parameter; the later Log_Data[2] wins.
   using Group = std::tuple<std::string, int, int, int>;
   std::vector<Group> groups;
-  for (const SectionGroup& g : runState().sections.groups)
+  for (const SectionGroup& g : sections_.groups)
     groups.emplace_back(g.prefix, g.data, g.definition, g.parameter);
   EXPECT_EQ(groups, (std::vector<Group>{{"Tops", 5, 4, 3}, {"Log", 9, 7, 6}}));
 }
 
 TEST_F(Sections, LookupsUseTheFirstSectionOfAName) {
-  runState().dialect.version = 3.0f;
+  dialect_.version = 3.0f;
   const std::string bytes = testing::readBytes(kV30);
   const std::string missing = testing::scratchFolder() + "/missing.las";
   const std::tuple<const char*, const char*, std::int64_t, const char*> rows[] = {
@@ -113,29 +115,30 @@ TEST_F(Sections, LookupsUseTheFirstSectionOfAName) {
   for (const auto& [name, foundName, start, text] : rows) {
     SCOPED_TRACE(name);
     std::string found = "stale";
-    EXPECT_EQ(findSection(kV30, runState().dialect, runState().sections, name, found),
+    EXPECT_EQ(findSection(kV30, dialect_, sections_, name, found),
               start);  // builds the index lazily
     EXPECT_EQ(found, foundName);
-    EXPECT_EQ(sectionText(kV30, runState().dialect, runState().sections, name), text);
+    EXPECT_EQ(sectionText(kV30, dialect_, sections_, name), text);
   }
   // A built index is used as it stands, whatever file is named.
   std::string found;
-  EXPECT_EQ(findSection(missing, runState().dialect, runState().sections, "Well", found),
-            startAfter(bytes, "~Well"));
-  resetRunState();
-  EXPECT_EQ(findSection(missing, runState().dialect, runState().sections, "Well", found), 0);
-  EXPECT_EQ(sectionText(missing, runState().dialect, runState().sections, "Well"), "");
+  EXPECT_EQ(findSection(missing, dialect_, sections_, "Well", found), startAfter(bytes, "~Well"));
+  dialect_ = {};
+  sections_ = {};
+  EXPECT_EQ(findSection(missing, dialect_, sections_, "Well", found), 0);
+  EXPECT_EQ(sectionText(missing, dialect_, sections_, "Well"), "");
 }
 
 TEST_F(Sections, SectionTextOfAVersion2File) {
-  runState().dialect.version = 2.0f;
-  EXPECT_EQ(sectionText(kV20, runState().dialect, runState().sections, "Parameter"),
+  dialect_.version = 2.0f;
+  EXPECT_EQ(sectionText(kV20, dialect_, sections_, "Parameter"),
             "RUN.  1\r\nMUD .\tGEL : MUD TYPE\r\n\r\nBHT .DEGC   35.5 : BOTTOM HOLE TEMPERATURE\r");
   // The last section reads to the end of the file, but an empty one has no text.
-  EXPECT_EQ(sectionText(kV20, runState().dialect, runState().sections, "A"),
+  EXPECT_EQ(sectionText(kV20, dialect_, sections_, "A"),
             "1670.000  45.0  0.27\r\n1669.875  46.0  0.28\r\n1669.750  47.0  0.29\r\n");
-  resetRunState();
-  EXPECT_EQ(sectionText(writeTitles("~V;~A"), runState().dialect, runState().sections, "A"), "");
+  dialect_ = {};
+  sections_ = {};
+  EXPECT_EQ(sectionText(writeTitles("~V;~A"), dialect_, sections_, "A"), "");
 }
 
 // Before 3.0 only data and curve sections make the standard sections found; 3.0 falls back on
@@ -149,19 +152,19 @@ TEST_F(Sections, StandardSectionNames) {
       {3.0f, "~Log_Data[1];~Log_Data[2];~Log_Parameter", "", "Log_Data[2]", "Log_Parameter", true}};
   for (const auto& [version, titles, curve, data, param, found] : rows) {
     SCOPED_TRACE(titles);
-    resetRunState();
-    runState().dialect.version = version;
-    EXPECT_TRUE(
-        locateStandardSections(writeTitles(titles), runState().dialect, runState().sections));
-    EXPECT_EQ(std::tie(runState().sections.curveName, runState().sections.dataName,
-                       runState().sections.paramName, runState().sections.standardFound),
+    dialect_ = {};
+    sections_ = {};
+    dialect_.version = version;
+    EXPECT_TRUE(locateStandardSections(writeTitles(titles), dialect_, sections_));
+    EXPECT_EQ(std::tie(sections_.curveName, sections_.dataName, sections_.paramName,
+                       sections_.standardFound),
               std::make_tuple(std::string(curve), std::string(data), std::string(param), found));
   }
-  runState().sections.dataName = "stale";
-  EXPECT_TRUE(locateStandardSections(testing::scratchFolder() + "/missing.las", runState().dialect,
-                                     runState().sections));
-  EXPECT_EQ(runState().sections.dataName, "");
-  EXPECT_FALSE(runState().sections.standardFound);
+  sections_.dataName = "stale";
+  EXPECT_TRUE(
+      locateStandardSections(testing::scratchFolder() + "/missing.las", dialect_, sections_));
+  EXPECT_EQ(sections_.dataName, "");
+  EXPECT_FALSE(sections_.standardFound);
 }
 
 }  // namespace

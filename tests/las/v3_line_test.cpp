@@ -5,7 +5,8 @@
 #include <map>
 #include <tuple>
 
-#include "checks/run_state.h"
+#include "las/dialect.h"
+#include "las/section_types.h"
 #include "las/sections.h"
 #include "support/scratch.h"
 
@@ -15,17 +16,18 @@ namespace {
 class V3Line : public ::testing::Test {
  protected:
   void SetUp() override {
-    resetRunState();
-    runState().dialect.version = 3.0f;
-    runState().sections.dataName = "ASCII";
+    dialect_.version = 3.0f;
+    sections_.dataName = "ASCII";
     // Roles by name: a header, a parameter, a definition, two data sections and one of no kind.
     buildSectionIndex(
         testing::writeScratchFile("v3_line.las",
                                   testing::crlfLines({"~Well", "~Parameter", "~Log_Definition",
                                                       "~Log_Data[1]", "~Tops", "~ASCII"})),
-        runState().dialect, runState().sections);
+        dialect_, sections_);
   }
-  void TearDown() override { resetRunState(); }
+
+  Dialect dialect_;
+  SectionIndex sections_;
 };
 
 // Faults that whole reports already show (a bar before the colon, a missing brace, an empty
@@ -70,13 +72,13 @@ TEST_F(V3Line, TypesLinesAndFillsSlots) {
       {"Tops", "  # note", V3_COMMENT, {}},
       {"", "junk", V3_BAD, {{SLOT_LINE_TYPE, "junk"}}},
   };
-  runState().dialect.delimiter = ",";
+  dialect_.delimiter = ",";
   for (const auto& [section, line, type, expected] : rows) {
     SCOPED_TRACE(std::string(section) + ": [" + line + "]");
     std::string current = section;
     V3LineDiagnostics slots;
     slots.fill("stale");
-    EXPECT_EQ(parseV3Line(line, current, runState().dialect, runState().sections, slots), type);
+    EXPECT_EQ(parseV3Line(line, current, dialect_, sections_, slots), type);
     EXPECT_EQ(current, section);
     for (int i = 0; i < static_cast<int>(slots.size()); ++i) {
       auto it = expected.find(i);
@@ -89,11 +91,11 @@ TEST_F(V3Line, TypesLinesAndFillsSlots) {
 TEST_F(V3Line, FieldCharacterTestsDependOnVersion) {
   for (float version : {3.0f, 2.0f}) {
     SCOPED_TRACE(version);
-    runState().dialect.version = version;
+    dialect_.version = version;
     const bool older = version < 3.0f;
-    EXPECT_EQ(isLegalUnitText("A{B", runState().dialect), older);
-    EXPECT_EQ(isLegalValueText("a|b", runState().dialect), older);
-    EXPECT_EQ(isLegalDescriptionText("x;y", runState().dialect), older);
+    EXPECT_EQ(isLegalUnitText("A{B", dialect_), older);
+    EXPECT_EQ(isLegalValueText("a|b", dialect_), older);
+    EXPECT_EQ(isLegalDescriptionText("x;y", dialect_), older);
     EXPECT_FALSE(isLegalAssociationText("A;B"));
   }
 }

@@ -5,15 +5,17 @@
 #include <string>
 #include <tuple>
 
-#include "checks/run_state.h"
+#include "las/dialect.h"
+#include "las/section_types.h"
 
 namespace zorvik {
 namespace {
 
 class ValueFormat : public ::testing::Test {
  protected:
-  void SetUp() override { resetRunState(); }
-  void TearDown() override { resetRunState(); }
+  // What a run would have learnt of the file under test.
+  Dialect dialect_;
+  SectionIndex sections_;
 };
 
 // Integers are unsigned; "F" alone needs no point but "F10" is no spec; an exponential width is
@@ -31,7 +33,7 @@ TEST_F(ValueFormat, ValueAgainstFormat) {
   };
   for (const auto& [value, format, expected] : rows) {
     SCOPED_TRACE(std::string("[") + value + "] as [" + format + "]");
-    EXPECT_EQ(valueMatchesFormat(value, format, runState().dialect.delimiter), expected);
+    EXPECT_EQ(valueMatchesFormat(value, format, dialect_.delimiter), expected);
   }
   // Padding counts toward the width.
   EXPECT_TRUE(isFloatValue("  12.5", "6.1"));
@@ -48,8 +50,8 @@ TEST_F(ValueFormat, ArrayValuesSplitOnTheDataDelimiter) {
   };
   for (const auto& [delimiter, value, format, expected] : rows) {
     SCOPED_TRACE(std::string("[") + value + "] as [" + format + "]");
-    runState().dialect.delimiter = delimiter;
-    EXPECT_EQ(valueMatchesFormat(value, format, runState().dialect.delimiter), expected);
+    dialect_.delimiter = delimiter;
+    EXPECT_EQ(valueMatchesFormat(value, format, dialect_.delimiter), expected);
   }
 }
 

@@ -5,7 +5,7 @@
 #include <filesystem>
 
 #include "base/text.h"
-#include "checks/run_state.h"
+#include "run/session.h"
 #include "support/batch_run.h"
 #include "support/scratch.h"
 
@@ -46,16 +46,16 @@ TEST(BatchRun, WritesItsReportAndCommandLogEntries) {
     testing::RunSandbox sandbox;
     const std::string las = sandbox.dir().file(row.fileName);
     if (las != sandbox.dir().file("missing.las")) sandbox.dir().write(row.fileName, row.bytes);
-    runState().batchMode = true;
-    runState().lasFile = las;
-    runState().logFile = sandbox.dir().file("out.log");
-    doBatchMode();
+    Session session;
+    session.lasFile = las;
+    session.logFile = sandbox.dir().file("out.log");
+    doBatchMode(session);
     EXPECT_EQ(testing::commandLogMessages(sandbox.commandLog()), row.messages);
-    bool written = std::filesystem::exists(runState().logFile);
+    bool written = std::filesystem::exists(session.logFile);
     ASSERT_EQ(written, row.golden != nullptr);
     if (written) {
       EXPECT_EQ(testing::compareWithGolden(
-                    testing::pinnedReport(readBytes(runState().logFile), sandbox.dir().path()),
+                    testing::pinnedReport(readBytes(session.logFile), sandbox.dir().path()),
                     kData + row.golden),
                 "");
     }

@@ -19,7 +19,7 @@
 #include "base/file_writer.h"
 #include "base/text.h"
 #include "checks/report.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "support/batch_run.h"
 #include "support/failing_writes.h"
 #include "support/scratch.h"
@@ -66,21 +66,22 @@ TEST(LogFileWritable, LooksWithoutOpeningAnything) {
 
 TEST(Report, AFailedWriteKeepsThePreviousLogFileAndSaysWhy) {
   testing::RunSandbox sandbox;
-  runState().lasFile = sandbox.dir().file("a.las");
-  runState().logFile = sandbox.dir().write("out.log", "previous report\r\n");
+  RunContext run;
+  run.lasFile = sandbox.dir().file("a.las");
+  run.logFile = sandbox.dir().write("out.log", "previous report\r\n");
   FailingWrites full(".zorvik-", false);
   int status = RUN_COMPLETED;
   {
     ScopedFileSystemCalls installed(full);
-    status = writeLogFile(runState().logFile, "", "");
+    status = writeLogFile(run, run.logFile, "", "");
   }
   EXPECT_EQ(status, RUN_FAULT);
-  EXPECT_EQ(readBytes(runState().logFile), "previous report\r\n");
+  EXPECT_EQ(readBytes(run.logFile), "previous report\r\n");
   EXPECT_EQ(testing::commandLogMessages(sandbox.commandLog()),
-            "Error: Log file " + runState().logFile +
+            "Error: Log file " + run.logFile +
                 " could not be written: writing failed: No space left on device.\n");
-  EXPECT_EQ(writeLogFile(runState().logFile, "", ""), RUN_COMPLETED);
-  EXPECT_TRUE(readBytes(runState().logFile).starts_with("LAS Certification Result for: "));
+  EXPECT_EQ(writeLogFile(run, run.logFile, "", ""), RUN_COMPLETED);
+  EXPECT_TRUE(readBytes(run.logFile).starts_with("LAS Certification Result for: "));
 }
 
 std::vector<std::string> linesOf(const std::string& text) {
@@ -95,14 +96,15 @@ std::size_t tabsIn(const std::string& line) {
 
 TEST(CommandLog, EntriesAreCutToOneAppendAndNeverGluedToABrokenOne) {
   testing::RunSandbox sandbox;
+  const CommandLogHeader header{"", "", "Ready"};
   const std::string longMessage = "x" + std::string(COMMAND_LOG_ENTRY_CAP, 'y') + "z";
-  writeCommandLog(longMessage);
+  writeCommandLog(header, longMessage);
   FailingWrites fullOnce("command.log", true);
   {
     ScopedFileSystemCalls installed(fullOnce);
-    writeCommandLog("broken by a full disk");
+    writeCommandLog(header, "broken by a full disk");
   }
-  writeCommandLog("whole");
+  writeCommandLog(header, "whole");
 
   const std::string log = sandbox.commandLog();
   std::vector<std::string> lines = linesOf(log);

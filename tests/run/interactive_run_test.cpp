@@ -5,7 +5,8 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "checks/run_state.h"
+#include "checks/run_context.h"
+#include "run/session.h"
 #include "support/batch_run.h"
 #include "support/fake_window.h"
 #include "support/scratch.h"
@@ -29,7 +30,7 @@ TEST(CertifyWork, VersionQuestionsAndCancelsDecideTheCalls) {
   struct Row {
     const char* name;
     std::string bytes;  // "<missing>": no file
-    // 'w' write-log option, 'c' cancel answer, 'b' batch flag, 'e' Escape pressed before the run.
+    // 'w' write-log option, 'c' cancel answer, 'e' Escape pressed before the run.
     const char* options;
     float version;
     // The calls after title and status, one a line: all of them when the last is "status Ready",
@@ -45,9 +46,6 @@ TEST(CertifyWork, VersionQuestionsAndCancelsDecideTheCalls) {
       {"NotFoundGoesOnAsTwo", noVers, "", 2.0f, kNotDetermined + "prepare 2\n",
        "LAS file FAILS Ver 2 Certification"},
       {"NotFoundCancelled", noVers, "c", 2.0f, kNotDetermined + kErrorBox + "status Ready\n", ""},
-      // No questions while the batch flag is set (a cancel answer would end the run).
-      {"BatchFlagAsksNothing", noVers, "bc", 2.0f, "prepare 2\n",
-       "LAS file FAILS Ver 2 Certification"},
       {"Three", versionFile(" VERS. 3.0 : V\r\n"), "", 3.0f, "prepare 3\n",
        "LAS file FAILS Ver 3 Certification"},
       // Refused in batch mode, certified as 1.2/2.0 here.
@@ -66,38 +64,34 @@ TEST(CertifyWork, VersionQuestionsAndCancelsDecideTheCalls) {
     testing::FakeWindow window;
     window.okCancelAnswer = options.find('c') == std::string::npos;
     window.yesNoAnswer = true;
-    runState().window = &window;
-    runState().lasFile = sandbox.dir().file("file.las");
+    Session session;
+    session.lasFile = sandbox.dir().file("file.las");
     if (row.bytes != "<missing>") sandbox.dir().write("file.las", row.bytes);
     const std::string log = sandbox.dir().write("file.log", "stale");
-    runState().writeLog = options.find('w') != std::string::npos;
-    runState().batchMode = options.find('b') != std::string::npos;
-    runState().escapePressed = options.find('e') != std::string::npos;
-    doCertifyWork();
-    runState().window = nullptr;
+    session.writeLog = options.find('w') != std::string::npos;
+    window.cancel = options.find('e') != std::string::npos;
+    RunContext run;
+    doCertifyWork(session, run, &window);
 
     ASSERT_GE(window.calls.size(), 2u);
-    EXPECT_EQ(window.calls[0], "title Zorvik (" + runState().lasFile + ")");
+    EXPECT_EQ(window.calls[0], "title Zorvik (" + session.lasFile + ")");
     EXPECT_EQ(window.calls.back(), "status Ready");
     std::string calls;
     for (std::size_t i = 2; i < window.calls.size(); ++i) calls += window.calls[i] + "\n";
     if (!row.calls.ends_with("status Ready\n"))
       calls.resize(std::min(calls.size(), row.calls.size()));
     EXPECT_EQ(calls, row.calls);
-    EXPECT_EQ(runState().dialect.version, row.version);
+    EXPECT_EQ(run.dialect.version, row.version);
     EXPECT_EQ(window.captions.empty() ? "" : window.captions.back(), row.caption);
     // A 3.0 file is certified by the 3.0 checks, and only a 3.0 file is.
     EXPECT_EQ(std::count(window.calls.begin(), window.calls.end(), "grid 3.0"),
               row.version == 3.0f ? 1 : 0);
-    EXPECT_FALSE(runState().escapePressed);
-    EXPECT_EQ(std::filesystem::exists(log), runState().writeLog);
-    if (runState().writeLog) {
+    EXPECT_FALSE(window.cancel);
+    EXPECT_EQ(std::filesystem::exists(log), session.writeLog);
+    if (session.writeLog) {
       EXPECT_NE(testing::readBytes(log).find("Failed: a. File exists"), std::string::npos);
     }
-    // Batch runs leave the settings alone.
-    EXPECT_EQ(
-        sandbox.settingsText().find("lasFile=" + runState().lasFile + "\n") != std::string::npos,
-        !runState().batchMode);
+    EXPECT_NE(sandbox.settingsText().find("lasFile=" + session.lasFile + "\n"), std::string::npos);
   }
 }
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "checks/run_state.h"
+#include "run/session.h"
 #include "support/scratch.h"
 
 namespace zorvik {
@@ -29,29 +29,31 @@ TEST(Settings, ReadIntoTheRunState) {
     SCOPED_TRACE(row.store ? row.store : "(none)");
     RunSandbox sandbox;
     if (row.store) sandbox.writeSettings(row.store);
-    runState().lasFile = "stale.las";
-    runState().showDetails = false;
-    readSettings();
-    EXPECT_EQ(runState().lasFile, row.lasFile);
-    EXPECT_EQ(runState().writeLog, row.on);
-    EXPECT_EQ(runState().doWrap, row.on);
-    EXPECT_TRUE(runState().showDetails);  // not remembered: on at every start
+    Session session;
+    session.lasFile = "stale.las";
+    session.showDetails = false;
+    readSettings(session);
+    EXPECT_EQ(session.lasFile, row.lasFile);
+    EXPECT_EQ(session.writeLog, row.on);
+    EXPECT_EQ(session.doWrap, row.on);
+    EXPECT_TRUE(session.showDetails);  // not remembered: on at every start
   }
 }
 
 TEST(Settings, SaveReplacesItsKeysAndKeepsTheRest) {
   RunSandbox sandbox;
   sandbox.writeSettings("[Window]\ngeometry=1\n\n[startup]\ndoWrap=-1\nextra=7\n\n[Other]\nk=v\n");
-  runState().lasFile = "/data/a b=c.las";
-  runState().writeLog = true;
-  saveSettings();
+  Session session;
+  session.lasFile = "/data/a b=c.las";
+  session.writeLog = true;
+  saveSettings(session);
   EXPECT_EQ(sandbox.settingsText(),
             "[Window]\ngeometry=1\n\n[startup]\ndoWrap=0\nextra=7\nlasFile=/data/a b=c.las\n"
             "writeLog=-1\n\n[Other]\nk=v\n");
-  resetRunState();
-  readSettings();
-  EXPECT_EQ(runState().lasFile, "/data/a b=c.las");
-  EXPECT_TRUE(runState().writeLog);
+  Session read;
+  readSettings(read);
+  EXPECT_EQ(read.lasFile, "/data/a b=c.las");
+  EXPECT_TRUE(read.writeLog);
 }
 
 }  // namespace

@@ -7,8 +7,7 @@
 
 #include "base/text.h"
 #include "checks/check_table.h"
-#include "checks/run_state.h"
-#include "checks/window_ops.h"
+#include "run/window_ops.h"
 
 namespace zorvik::testing {
 
@@ -17,6 +16,8 @@ class FakeWindow : public WindowOps {
   // Answers to the questions.
   bool yesNoAnswer = false;
   bool okCancelAnswer = true;
+  // An Escape press waiting to be served.
+  bool cancel = false;
   // Runs whenever the run lets events run, with the progress caption last shown.
   std::function<void(const std::string&)> onEvents;
 
@@ -39,7 +40,7 @@ class FakeWindow : public WindowOps {
   }
   void enableResultTabs(bool enabled) override { calls.push_back(enabled ? "enable" : "disable"); }
   void fillResultGrid(const CheckTable& table) override {
-    calls.push_back(&table == &runState().table3 ? "grid 3.0" : "grid 1.2/2.0");
+    calls.push_back(table.lastGroup() == 9 ? "grid 3.0" : "grid 1.2/2.0");
   }
   bool askYesNo(const std::string& title, const std::string& text) override {
     questions.push_back(title + "|" + text);
@@ -56,6 +57,8 @@ class FakeWindow : public WindowOps {
   void processEvents() override {
     if (onEvents) onEvents(captions.empty() ? std::string() : captions.back());
   }
+  bool cancelRequested() const override { return cancel; }
+  void clearCancelRequest() override { cancel = false; }
   void setBusyPointer(bool busy) override { pointer.push_back(busy); }
 };
 

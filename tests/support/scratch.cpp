@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "base/command_log.h"
-#include "checks/run_state.h"
 #include "support/batch_run.h"
 
 namespace fs = std::filesystem;
@@ -68,7 +67,6 @@ RunSandbox::RunSandbox() {
   fs::create_directories(dir_.file("bin"));
   setenv("XDG_CONFIG_HOME", dir_.file("config").c_str(), 1);
   setProgramFolder(dir_.file("bin"));
-  resetRunState();
 }
 
 RunSandbox::~RunSandbox() {
@@ -77,7 +75,6 @@ RunSandbox::~RunSandbox() {
     setenv("XDG_CONFIG_HOME", savedConfigHome_.c_str(), 1);
   else
     unsetenv("XDG_CONFIG_HOME");
-  resetRunState();
 }
 
 std::string RunSandbox::commandLog() const {

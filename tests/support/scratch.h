@@ -38,7 +38,7 @@ std::vector<std::string> namesIn(const std::string& folder);
 // The lines, each ended by CR LF.
 std::string crlfLines(const std::vector<std::string>& lines);
 
-// Run control sandbox: resets the run state, sends command.log to `<scratch>/bin` and the
+// Run control sandbox: sends command.log to `<scratch>/bin` and the
 // settings store to `<scratch>/config`; restores both afterwards.
 class RunSandbox {
  public:

@@ -12,8 +12,9 @@
 #include "base/file_writer.h"
 #include "base/text.h"
 #include "checks/report.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "run/interactive_run.h"
+#include "run/session.h"
 #include "support/batch_run.h"
 #include "support/failing_writes.h"
 #include "support/scratch.h"
@@ -59,13 +60,19 @@ struct Certified {
 };
 
 // Certifies `path` in this process, as the window does before and after a repair.
-Certified certify(const std::string& path) {
-  runState().lasFile = path;
-  runInteractive();
+Certified certify(const std::string& path, RunContext& run) {
+  Session session;
+  session.lasFile = path;
+  runInteractive(session, run, nullptr);
   Certified c;
-  c.rows = failingRows(runState().table2);
-  c.passed = verdictLine(reportTable()).find("PASSED") != std::string::npos;
+  c.rows = failingRows(run.table2);
+  c.passed = verdictLine(run).find("PASSED") != std::string::npos;
   return c;
+}
+
+Certified certify(const std::string& path) {
+  RunContext run;
+  return certify(path, run);
 }
 
 std::vector<std::string> lines(const std::string& bytes) {
@@ -207,10 +214,11 @@ TEST(RepairFile, EachRepairFixesItsRowAndChangesOnlyTheListedLines) {
       EXPECT_EQ(lines(repaired), applyListed(lines(faulty), result.changes))
           << describeChanges(result.changes);
     }
-    const Certified after = certify(path);
+    RunContext afterRun;
+    const Certified after = certify(path, afterRun);
     EXPECT_EQ(std::find(after.rows.begin(), after.rows.end(), row.row), after.rows.end());
     if (row.unitsAnswer.empty()) {
-      EXPECT_TRUE(after.passed) << describeChanges(result.changes) << buildReport(reportTable());
+      EXPECT_TRUE(after.passed) << describeChanges(result.changes) << buildReport(afterRun);
     }
   }
 }

@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "base/text.h"
-#include "checks/run_state.h"
+#include "checks/run_context.h"
 #include "las/sections.h"
 #include "support/batch_run.h"
 #include "support/fake_window.h"
@@ -54,19 +54,19 @@ TEST(AnalyseWrap, FindsTheLinesOfOneRecord) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.data + " hint " + std::to_string(row.hint));
     std::string path = writeScratchFile("analyse_wrap.las", lasWith(true, row.curves, row.data));
-    resetRunState();
-    runState().dialect.version = 2.0f;
-    locateStandardSections(path, runState().dialect, runState().sections);
+    RunContext run;
+    run.lasFile = path;
+    run.dialect.version = 2.0f;
+    locateStandardSections(path, run.dialect, run.sections);
     testing::FakeWindow window;
     if (row.code == WRAP_CANCELLED) {
-      window.onEvents = [](const std::string&) { runState().escapePressed = true; };
+      window.onEvents = [&window](const std::string&) { window.cancel = true; };
     }
-    runState().window = &window;
+    run.observer = &window;
     int lines = -1, buffer = -1, channels = -1;
-    int code = analyseWrap(path, lines, buffer, channels, row.hint);
+    int code = analyseWrap(run, lines, buffer, channels, row.hint);
     EXPECT_EQ((std::vector<int>{code, lines, buffer, channels}),
               (std::vector<int>{row.code, row.linesPerRecord, row.bufferLength, row.channels}));
-    runState().window = nullptr;
   }
 }
 

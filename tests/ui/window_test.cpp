@@ -26,7 +26,7 @@
 #include <memory>
 
 #include "base/command_log.h"
-#include "checks/run_state.h"
+#include "run/session.h"
 #include "run/settings.h"
 #include "ui/main_window.h"
 #include "ui/result_model.h"
@@ -42,10 +42,9 @@ class WindowTest : public ::testing::Test {
     ASSERT_TRUE(root.mkpath("config") && root.mkpath("program") && root.mkpath("data"));
     qputenv("XDG_CONFIG_HOME", root.filePath("config").toLocal8Bit());
     setProgramFolder(root.filePath("program").toStdString());
-    resetRunState();
-    runState().window = nullptr;
-    readSettings();
-    window = std::make_unique<CertifyWindow>(fakeDesktop());
+    Session session;
+    readSettings(session);
+    window = std::make_unique<CertifyWindow>(fakeDesktop(), session);
     window->show();
     modelTester = std::make_unique<QAbstractItemModelTester>(
         window->resultModel(), QAbstractItemModelTester::FailureReportingMode::Fatal);
@@ -53,7 +52,6 @@ class WindowTest : public ::testing::Test {
   void TearDown() override {
     modelTester.reset();
     window.reset();
-    runState().window = nullptr;
     setProgramFolder("");
   }
 
@@ -211,7 +209,7 @@ TEST_F(WindowTest, GridDetailsAndCaptionShowTheReportsOutcome) {
        "GR.GAPI     : GAMMA RAY | BS\n",
        "LAS file FAILS Ver 3 Certification"},
   };
-  runState().doWrap = false;
+  window->session().doWrap = false;
   const ResultModel& model = *window->resultModel();
   for (const Row& row : rows) {
     SCOPED_TRACE(row.fixture);
@@ -229,31 +227,32 @@ TEST_F(WindowTest, OptionsFlipFlagsPanelsAndSavedSettings) {
   const ResultModel& model = *window->resultModel();
   struct Row {
     const char* action;
-    bool RunState::*flag;
+    bool Session::*flag;
     // The panel, its captions when on and off, the setting: "" when the option has none.
     const char *panel, *onCaption, *offCaption, *settingKey;
   };
   const Row rows[] = {
-      {"opt_M_0", &RunState::doWrap, "stat_0", "Do Wrap", "No Wrap", "doWrap"},
-      {"opt_M_1", &RunState::showDetails, "", "", "", ""},
-      {"opt_M_2", &RunState::writeLog, "stat_1", "Log File", "No Log", "writeLog"},
+      {"opt_M_0", &Session::doWrap, "stat_0", "Do Wrap", "No Wrap", "doWrap"},
+      {"opt_M_1", &Session::showDetails, "", "", "", ""},
+      {"opt_M_2", &Session::writeLog, "stat_1", "Log File", "No Log", "writeLog"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.action);
     QAction* action = child<QAction>(row.action);
     ASSERT_NE(action, nullptr);
-    const bool before = runState().*row.flag;
+    const bool before = window->session().*row.flag;
     EXPECT_EQ(action->isChecked(), before);
     for (const bool expected : {!before, before}) {
       action->trigger();
       EXPECT_EQ(action->isChecked(), expected);
-      EXPECT_EQ(runState().*row.flag, expected);
+      EXPECT_EQ(window->session().*row.flag, expected);
       if (*row.panel != '\0') {
         EXPECT_EQ(child<QLabel>(row.panel)->text(), expected ? row.onCaption : row.offCaption);
         EXPECT_EQ(readSetting(row.settingKey, "absent"), expected ? "-1" : "0");
       }
       // The finding line under the failed check shows only with the details option.
-      EXPECT_EQ(model.rowCount(model.index(2, 0, model.index(1, 0))), runState().showDetails);
+      EXPECT_EQ(model.rowCount(model.index(2, 0, model.index(1, 0))),
+                window->session().showDetails);
     }
   }
   EXPECT_TRUE(messages.empty());
@@ -267,10 +266,10 @@ TEST_F(WindowTest, RepeatCertificationRunsAgainOnlyWhileTheFileExists) {
       ASSERT_TRUE(QFile::remove(QString::fromStdString(las)));
     }
     window->resultModel()->clear();
-    runState().statusLine = "untouched";
+    window->session().statusLine = "untouched";
     trigger("file_M_1");
     EXPECT_EQ(groupRows(), deleted ? 0 : 7);
-    EXPECT_EQ(runState().statusLine, deleted ? "untouched" : "Ready");
+    EXPECT_EQ(window->session().statusLine, deleted ? "untouched" : "Ready");
   }
   EXPECT_TRUE(messages.empty());
 }
@@ -307,7 +306,7 @@ TEST_F(WindowTest, EscapeDuringARunAsksAndCancelsOnYes) {
                               : "LAS file PASSED Ver " + version + " Certification");
     EXPECT_EQ(child<QLabel>("statusLine")->text(), "Ready");
     EXPECT_FALSE(window->certifying());
-    EXPECT_FALSE(runState().escapePressed);
+    EXPECT_FALSE(window->cancelRequested());
   }
 }
 
@@ -319,10 +318,10 @@ TEST_F(WindowTest, EscapeOutsideARunIsACancelRequestOnlyInTheMainWindow) {
         std::tuple{tabs, Qt::Key_Escape, true}}) {
     SCOPED_TRACE(::testing::Message()
                  << (target == tabs ? "main window " : "other window ") << key);
-    runState().escapePressed = false;
+    window->clearCancelRequest();
     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
     QApplication::sendEvent(target, &press);
-    EXPECT_EQ(runState().escapePressed, flag);
+    EXPECT_EQ(window->cancelRequested(), flag);
   }
   EXPECT_TRUE(messages.empty());
 }
@@ -356,8 +355,8 @@ TEST_F(WindowTest, ClosingSavesTheSettingsThatTheNextBatchRunReads) {
   };
   // A fresh store remembers no LAS file, and batch runs are refused until one is.
   EXPECT_FALSE(batchRun());
-  runState().lasFile = las.toStdString();
-  runState().writeLog = true;
+  window->session().lasFile = las.toStdString();
+  window->session().writeLog = true;
   EXPECT_TRUE(window->close());
   EXPECT_EQ(readSetting("lasFile", ""), las.toStdString());
   EXPECT_EQ(readSetting("writeLog", ""), "-1");
@@ -471,7 +470,7 @@ TEST_F(WindowTest, ConvertWritesTheChosenNameWithTheTabsOptionsAndCertifiesIt) {
     }
     ASSERT_EQ(messages.size(), 1u);
     EXPECT_EQ(messages[0].title, "Convert!");
-    EXPECT_EQ(runState().lasFile, output.toStdString());
+    EXPECT_EQ(window->session().lasFile, output.toStdString());
     EXPECT_EQ(window->windowTitle(), "Zorvik (" + output + ")");
     EXPECT_EQ(gridMarks(*window->resultModel()),
               "P:PPPPPPP P:PPPPPPPPP P:PPPPPPPPPPPPPP P:PPPPPPPPPPP P:PPPPPP P:PPPPPPP P:PPP P:PP "

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "checks/check_table.h"
-#include "checks/run_state.h"
+#include "las/dialect.h"
 #include "ui/check_details.h"
 #include "ui/documents.h"
 #include "ui/result_model.h"
