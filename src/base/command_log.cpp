@@ -28,11 +28,6 @@ std::string executableFolder() {
   return exe.parent_path().string();
 }
 
-std::function<void(const std::string&)>& sink() {
-  static std::function<void(const std::string&)> current;
-  return current;
-}
-
 // The per-user state folder's log, its folder created on demand; "" when there is no home for it.
 std::string stateLogPath() {
   namespace fs = std::filesystem;
@@ -89,15 +84,7 @@ void setProgramFolder(const std::string& folder) {
   folderOverride() = folder;
 }
 
-void setCommandLogSink(std::function<void(const std::string& message)> next) {
-  sink() = std::move(next);
-}
-
 void writeCommandLog(const CommandLogHeader& header, std::string_view message) {
-  if (sink()) {
-    sink()(std::string(message));
-    return;
-  }
   std::string entry = commandLogDate(localNow());
   entry += '\t';
   entry += header.lasFile;

@@ -10,7 +10,6 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -29,10 +28,6 @@ void writeCommandLog(const CommandLogHeader& header, std::string_view message);
 
 // `entry` cut to COMMAND_LOG_ENTRY_CAP bytes with a marker and a line end when longer.
 std::string cappedEntry(std::string entry);
-
-// While a sink is set, messages go to it instead of command.log: the command-line tool keeps
-// the log for the batch form and the window. An empty sink restores the file.
-void setCommandLogSink(std::function<void(const std::string& message)> sink);
 
 // The folder holding the running executable (where command.log lives).
 std::string programFolder();

@@ -18,23 +18,21 @@ int evaluate(const Slots& slots) {
 
 // The first bad record of one data section into slots 2 and 4, from group 4's pass over this very
 // data when it made the same walk, else by reading the records.
-void judgeRecords(const RunContext& run, std::int64_t start, const RecordRules& rules,
-                  Slots& slots) {
-  const std::string& fileName = run.lasFile;
-  const DataScan* kept = keptScan(run.dataScan, fileName, start);
+void judgeRecords(RunContext& run, std::int64_t start, const RecordRules& rules, Slots& slots) {
+  const DataScan* kept = keptScan(run.dataScan, run.lasFile, start);
   if (kept != nullptr && sameRules(kept->rules, rules)) {
     slots[2] = kept->countFinding;
     slots[4] = kept->lengthFinding;
     return;
   }
   LineReader file;
-  if (!file.open(fileName)) return;
+  if (!file.open(run.source())) return;
   file.seek(start);
   RecordWalk walk(rules);
   std::string_view line;
   while (file.readLine(line) && walk.feed(line, file.lineStart(), file.lineLength())) {
   }
-  walk.finish(fileName, slots[2], slots[4]);
+  walk.finish(run.source(), slots[2], slots[4]);
 }
 
 }  // namespace
@@ -46,7 +44,7 @@ int dataChannelDefinitions(RunContext& run, const SectionEntry& dataSection,
   definitionName = curveName;
   if (association.empty() || iequals(association, curveName)) return curveTable.lastEntry();
   ParamTable own;
-  parseSectionTable(run.lasFile, run.dialect, run.sections, own, association);
+  parseSectionTable(run.source(), run.dialect, run.sections, own, association);
   definitionName = std::string(association);
   return own.lastEntry();
 }
@@ -63,10 +61,9 @@ RecordRules asciiRecordRules(const std::string& wrapValue, int linesPerRecord, i
 
 int checkAsciiSection(RunContext& run, const std::string& wrapValue, int linesPerRecord,
                       int channels, const ParamTable& curveTable, Slots& slots) {
-  const std::string& fileName = run.lasFile;
   for (int k = 1; k <= 4; ++k) slots[k].clear();
   const std::vector<SectionEntry> index = run.sections.entries;
-  std::int64_t length = fileLength(fileName);
+  std::int64_t length = fileLength(run.lasFile);
 
   for (const SectionEntry& section : index) {
     if (section.role != ROLE_DATA) continue;
@@ -75,7 +72,7 @@ int checkAsciiSection(RunContext& run, const std::string& wrapValue, int linesPe
     int definitions = dataChannelDefinitions(run, section, curveTable, definitionName);
     int values = channels;
     if (run.isV3()) {
-      LineReader file(fileName);
+      LineReader file(run.source());
       file.seek(section.start);
       std::string_view line;
       values = file.readLine(line) ? countWords(line, run.dialect.delimiter) : 0;

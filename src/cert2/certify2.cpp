@@ -52,16 +52,16 @@ std::string currentDelimiter(RunContext& run) {
 // one is not there. False when loading failed (not when the section is missing).
 bool loadHeaderTable(RunContext& run, ParamTable& table, std::string_view name,
                      std::string_view letter) {
-  int loaded = parseSectionTable(run.lasFile, run.dialect, run.sections, table, name);
+  int loaded = parseSectionTable(run.source(), run.dialect, run.sections, table, name);
   if (loaded == 1 && !run.isV3())
-    loaded = parseSectionTable(run.lasFile, run.dialect, run.sections, table, letter);
+    loaded = parseSectionTable(run.source(), run.dialect, run.sections, table, letter);
   return loaded != 0;
 }
 
 // Loads the section `name` when the run found one; false when loading failed.
 bool loadNamedTable(RunContext& run, ParamTable& table, const std::string& name) {
   return name.empty() ||
-         parseSectionTable(run.lasFile, run.dialect, run.sections, table, name) != 0;
+         parseSectionTable(run.source(), run.dialect, run.sections, table, name) != 0;
 }
 
 // The country note alone in group 5 keeps the stop rule off for the rest of the run.
@@ -108,7 +108,7 @@ Next runChecks(RunContext& run, const Certify2Checks& checks) {
   Next next = Next::Go;
 
   run.dialect.delimiter = currentDelimiter(run);
-  if (!locateStandardSections(run.lasFile, run.dialect, run.sections)) {
+  if (!locateStandardSections(run.source(), run.dialect, run.sections)) {
     Slots none;
     if (afterCheck(run, 0, result, none) == Next::Cancel) return Next::Cancel;
     throw RunFailed{};

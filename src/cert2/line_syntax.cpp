@@ -144,7 +144,6 @@ const SectionEntry* walkedDataSection(RunContext& run) {
 
 int checkLineSyntax(RunContext& run, const std::string& wrapValue, const ParamTable& curveTable,
                     Slots& slots, int& linesPerRecord, int& channels) {
-  const std::string& fileName = run.lasFile;
   for (int k = 1; k <= 7; ++k) slots[k].clear();
   run.dataScan = {};
   char delimiter = run.dialect.delimiterChar();
@@ -163,7 +162,7 @@ int checkLineSyntax(RunContext& run, const std::string& wrapValue, const ParamTa
   }
 
   LineReader file;
-  if (!file.open(fileName)) return CHECK_FAULT;
+  if (!file.open(run.source())) return CHECK_FAULT;
   const SectionEntry* walked = walkedDataSection(run);
   for (const SectionEntry& section : run.sections.entries) {
     if (section.role == ROLE_DATA) {
@@ -179,12 +178,12 @@ int checkLineSyntax(RunContext& run, const std::string& wrapValue, const ParamTa
       DataWalks walks{IncrementWalk(perRecord, delimiter), RecordWalk(rules)};
       judgeDataLines(file, tabDelimited, slots, &walks);
       DataScan scan;
-      stampScan(scan, fileName, section.start);
+      stampScan(scan, run.lasFile, section.start);
       scan.delimiter = delimiter;
       scan.linesPerRecord = perRecord;
       scan.rules = rules;
       scan.incrementAnswer = walks.increments.finish(scan.increments);
-      walks.records.finish(fileName, scan.countFinding, scan.lengthFinding);
+      walks.records.finish(run.source(), scan.countFinding, scan.lengthFinding);
       run.dataScan = std::move(scan);
     } else if (section.role != ROLE_OTHER) {
       judgeHeaderLines(file, run.dialect, tabDelimited, slots);

@@ -157,7 +157,7 @@ int checkArrayChannels(RunContext& run, Slots& slots) {
   bool skipped = false;
   try {
     LineReader reader;
-    if (reader.open(run.lasFile)) {
+    if (reader.open(run.source())) {
       // Findings of every definition section are kept, one section after the other.
       for (const SectionEntry& entry : run.sections.entries) {
         if (entry.role == ROLE_DEFINITION &&

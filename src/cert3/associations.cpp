@@ -17,7 +17,7 @@ namespace zorvik {
 MnemonicTable buildMnemonicTable(RunContext& run) {
   MnemonicTable table;
   LineReader reader;
-  if (!reader.open(run.lasFile)) return table;
+  if (!reader.open(run.source())) return table;
   V3LineDiagnostics diagnostics;
   std::string_view line;
   for (const SectionEntry& entry : run.sections.entries) {

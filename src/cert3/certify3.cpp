@@ -102,7 +102,7 @@ Next afterCheck(RunContext& run, int group, int code, const Slots& slots) {
 }
 
 void readHeaderTables(RunContext& run, HeaderTables& tables) {
-  const std::string& file = run.lasFile;
+  const LasFile& file = run.source();
   parseSectionTable(file, run.dialect, run.sections, tables.version, "Version");
   parseSectionTable(file, run.dialect, run.sections, tables.well, "Well");
   if (!run.sections.curveName.empty())
@@ -125,15 +125,14 @@ WellRange wellRangeOf(const ParamTable& well) {
 
 // Runs the groups in order; returns when the run ends normally or a stop test ends it.
 void runGroups(RunContext& run) {
-  const std::string& fileName = run.lasFile;
   Slots slots;
 
   presetSlots(slots, {});
-  int code = checkTitleLines3(fileName, slots[7]);
+  int code = checkTitleLines3(run.source(), slots[7]);
   if (afterCheck(run, 0, code, slots) == Next::Stop) return;
 
   storeDataDelimiter(run);
-  locateStandardSections(fileName, run.dialect, run.sections);
+  locateStandardSections(run.source(), run.dialect, run.sections);
   HeaderTables tables;
   readHeaderTables(run, tables);
   layOutCatalogueForFile(run, tables);

@@ -25,7 +25,7 @@ class ColumnDataCheck {
       : run_(run), slots_(slots), delimiter_(run.dialect.delimiterChar()) {}
 
   void run() {
-    if (!reader_.open(run_.lasFile)) return;
+    if (!reader_.open(run_.source())) return;
     for (const SectionEntry& entry : run_.sections.entries) {
       if (entry.role == ROLE_DATA) checkSection(entry);
     }
@@ -38,7 +38,7 @@ class ColumnDataCheck {
     std::string definitionName = definitionSectionFor(run_.sections, data);
     ParamTable definitions;
     if (!definitionName.empty())
-      parseSectionTable(run_.lasFile, run_.dialect, run_.sections, definitions, definitionName);
+      parseSectionTable(run_.source(), run_.dialect, run_.sections, definitions, definitionName);
     const int channels = definitions.lastEntry();
     formats_.clear();
     for (int k = 1; k <= channels; ++k) {

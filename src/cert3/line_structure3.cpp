@@ -43,7 +43,7 @@ class LineStructureCheck {
 
   void run() {
     LineReader reader;
-    if (!reader.open(run_.lasFile)) return;
+    if (!reader.open(run_.source())) return;
     const auto& index = run_.sections.entries;
     delimiter_ = run_.dialect.delimiterChar();
     std::size_t cursor = 0;

@@ -45,7 +45,7 @@ std::string missingLocation(const ParamTable& table, const std::string_view (&li
 std::string lineAsWritten(RunContext& run, std::string_view section, const ParamTable& table,
                           int entry) {
   const std::string_view mnemonic = table.at(FIELD_MNEMONIC, entry);
-  const std::string text = sectionText(run.lasFile, run.dialect, run.sections, section);
+  const std::string text = sectionText(run.source(), run.dialect, run.sections, section);
   std::size_t begin = 0;
   while (begin < text.size()) {
     std::size_t end = text.find('\r', begin);

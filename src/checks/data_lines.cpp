@@ -9,11 +9,11 @@
 namespace zorvik {
 
 std::int64_t firstDataLinePosition(RunContext& run) {
-  if (run.sections.entries.empty()) buildSectionIndex(run.lasFile, run.dialect, run.sections);
+  if (run.sections.entries.empty()) buildSectionIndex(run.source(), run.dialect, run.sections);
   if (!run.sections.dataName.empty()) {
     std::string found;
     if (std::int64_t pos =
-            findSection(run.lasFile, run.dialect, run.sections, run.sections.dataName, found);
+            findSection(run.source(), run.dialect, run.sections, run.sections.dataName, found);
         pos > 0)
       return pos;
   }

@@ -19,9 +19,9 @@ constexpr std::int64_t MAX_WRAPPED_LINE = 78;
 constexpr std::int64_t MAX_UNWRAPPED_LINE = 254;
 
 // The record's lines joined by single blanks, read again from `start`.
-std::string recordText(const std::string& fileName, std::int64_t start, int lines) {
+std::string recordText(const LasFile& source, std::int64_t start, int lines) {
   LineReader file;
-  if (!file.open(fileName)) return {};
+  if (!file.open(source)) return {};
   file.seek(start);
   std::string record;
   std::string_view line;
@@ -147,7 +147,7 @@ bool RecordWalk::judgeRecord() {
   return !done_;
 }
 
-void RecordWalk::finish(const std::string& fileName, std::string& countFinding,
+void RecordWalk::finish(const LasFile& file, std::string& countFinding,
                         std::string& lengthFinding) {
   if (!done_ && lines_ > 0) judgeRecord();
   done_ = true;
@@ -155,7 +155,7 @@ void RecordWalk::finish(const std::string& fileName, std::string& countFinding,
   if (badValues_ >= 0)
     countFinding = "Space delimited column count differs from ~Curve channel count. Expected: " +
                    toText(rules_.expectedValues) + ". Found: " + toText(badValues_) + "\r\n" +
-                   recordText(fileName, badStart_, badLines_);
+                   recordText(file, badStart_, badLines_);
   lengthFinding = lengthFinding_;
 }
 

@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "las/las_file.h"
+
 namespace zorvik {
 
 // Answers of the increment walk.
@@ -74,8 +76,8 @@ class RecordWalk {
   bool feed(std::string_view line, std::int64_t lineStart, std::int64_t lineLength,
             const LineBytes& bytes);
   // At the end of the lines: the findings for the value count and the line length ("" when
-  // none). The offending record is read again from `fileName` for its text.
-  void finish(const std::string& fileName, std::string& countFinding, std::string& lengthFinding);
+  // none). The offending record is read again from `file` for its text.
+  void finish(const LasFile& file, std::string& countFinding, std::string& lengthFinding);
 
  private:
   bool judgeRecord();

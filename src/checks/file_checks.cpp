@@ -9,6 +9,7 @@
 
 #include "base/file_helpers.h"
 #include "base/text.h"
+#include "checks/run_context.h"
 
 namespace zorvik {
 
@@ -17,18 +18,23 @@ namespace {
 constexpr std::int64_t kSampleSize = 4096;
 
 // Reads `count` bytes from the 0-based `offset`; false (with `fault` set) when that fails.
-bool readSample(std::FILE* file, std::int64_t offset, std::int64_t count, std::string& out,
+bool readSample(const LasFile& file, std::int64_t offset, std::int64_t count, std::string& out,
                 Fault& fault) {
   out.assign(static_cast<std::size_t>(count), '\0');
-  if (std::fseek(file, static_cast<long>(offset), SEEK_SET) != 0) {
-    fault = faultFromErrno(errno);
-    return false;
-  }
-  std::size_t got = std::fread(out.data(), 1, out.size(), file);
-  if (got != out.size()) {
-    // The file shrank under us, or the device failed.
-    fault = std::ferror(file) ? faultFromErrno(errno) : makeFault(FAULT_PAST_END);
-    return false;
+  std::size_t got = 0;
+  while (got < out.size()) {
+    std::int64_t n =
+        file.readAt(offset + static_cast<std::int64_t>(got), out.data() + got, out.size() - got);
+    if (n < 0) {
+      fault = faultFromErrno(errno);
+      return false;
+    }
+    if (n == 0) {
+      // The file shrank under us.
+      fault = makeFault(FAULT_PAST_END);
+      return false;
+    }
+    got += static_cast<std::size_t>(n);
   }
   return true;
 }
@@ -77,15 +83,14 @@ std::int64_t lengthOf(const std::string& fileName) {
 
 }  // namespace
 
-int terminationTest(const std::string& fileName, std::string& termination, std::string& ascii,
+int terminationTest(const LasFile& file, std::string& termination, std::string& ascii,
                     Fault& fault) {
   fault = Fault{};
-  std::FILE* file = std::fopen(fileName.c_str(), "rb");
-  if (file == nullptr) {
-    fault = faultFromErrno(errno);
+  if (!file.isOpen()) {
+    fault = faultFromErrno(file.openError());
     return 0;
   }
-  std::int64_t length = lengthOf(fileName);
+  std::int64_t length = lengthOf(file.path());
   std::string head, tail;
   bool read = length >= 0 && readSample(file, 0, std::min(length, kSampleSize), head, fault);
   // The tail leaves out the very last byte, so a file's final CR LF is judged by its CR alone.
@@ -96,7 +101,6 @@ int terminationTest(const std::string& fileName, std::string& termination, std::
   } else {
     tail = head;
   }
-  std::fclose(file);
   if (!read) {
     if (fault.number == 0) fault = makeFault(FAULT_DEVICE_IO);
     return 0;
@@ -118,7 +122,8 @@ int terminationTest(const std::string& fileName, std::string& termination, std::
   return 0;
 }
 
-int fileLevelChecks(const std::string& fileName, Slots& results) {
+int fileLevelChecks(RunContext& run, Slots& results) {
+  const std::string& fileName = run.lasFile;
   results = Slots{};
   std::string& exists = results[FILE_EXISTS];
   std::string& size = results[FILE_SIZE];
@@ -136,7 +141,8 @@ int fileLevelChecks(const std::string& fileName, Slots& results) {
   if (!exists.empty() || !size.empty() || !access.empty()) return RUN_STOPPED;
 
   Fault fault;
-  int outcome = terminationTest(fileName, results[FILE_TERMINATION], results[FILE_ASCII], fault);
+  int outcome =
+      terminationTest(run.source(), results[FILE_TERMINATION], results[FILE_ASCII], fault);
   if (outcome == 0) {
     access = accessFailure(fault);
     return RUN_STOPPED;

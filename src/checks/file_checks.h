@@ -9,8 +9,11 @@
 
 #include "base/fault.h"
 #include "checks/check_table.h"
+#include "las/las_file.h"
 
 namespace zorvik {
+
+struct RunContext;
 
 // Rows of group 1 in the slots the file-level checks fill.
 enum FileCheckRow : int {
@@ -24,13 +27,13 @@ enum FileCheckRow : int {
 
 // Fills slots 1..6 (see FileCheckRow; the others are emptied) and answers RUN_COMPLETED when all
 // six are empty, else RUN_STOPPED. Existence, size or access failing leaves rows 4..6 empty.
-int fileLevelChecks(const std::string& fileName, Slots& results);
+int fileLevelChecks(RunContext& run, Slots& results);
 
 // Judges the line ends and the NUL-free head of an existing, non-empty file. Answers 1 with
 // `ascii` = " " for a NUL in the first 4096 bytes, 1 with `termination` set for LF line ends,
 // -1 for CR LF line ends, 0 when undecided or when the file could not be read (then `fault`
 // holds the fault, number 0 when there was none).
-int terminationTest(const std::string& fileName, std::string& termination, std::string& ascii,
+int terminationTest(const LasFile& file, std::string& termination, std::string& ascii,
                     Fault& fault);
 
 }  // namespace zorvik

@@ -32,7 +32,6 @@ bool isRangeMnemonic(std::string_view m) {
 
 std::string lookupFileValue(RunContext& run, std::string_view mnemonic,
                             std::string_view sectionName, std::string* unit, bool* notFound) {
-  const std::string& fileName = run.lasFile;
   if (unit) unit->clear();
   if (notFound) *notFound = false;
   float version = run.dialect.version;
@@ -40,10 +39,10 @@ std::string lookupFileValue(RunContext& run, std::string_view mnemonic,
   if (trimView(mnemonic).empty()) return {};
 
   LineReader file;
-  if (!file.open(fileName)) return {};
+  if (!file.open(run.source())) return {};
   if (!sectionName.empty()) {
     std::string found;
-    if (std::int64_t pos = findSection(fileName, run.dialect, run.sections, sectionName, found);
+    if (std::int64_t pos = findSection(run.source(), run.dialect, run.sections, sectionName, found);
         pos > 0)
       file.seek(pos);
   }

@@ -89,7 +89,7 @@ int readIndexEnds(RunContext& run, const std::string& wrapValue, IndexEnds& ends
                   int linesPerRecord) {
   ends = {};
   LineReader file;
-  if (!file.open(run.lasFile)) return INDEX_FAULT;
+  if (!file.open(run.source())) return INDEX_FAULT;
   std::int64_t first = firstDataLinePosition(run);
   if (noDataAt(first, file.length())) return INDEX_NO_DATA;
   char delimiter = run.dialect.delimiterChar();
@@ -140,7 +140,7 @@ int readIndexEnds(RunContext& run, const std::string& wrapValue, IndexEnds& ends
 int analyseIncrements(RunContext& run, int linesPerRecord, IncrementResult& result) {
   result = {};
   LineReader file;
-  if (!file.open(run.lasFile)) return STEP_UNREADABLE;
+  if (!file.open(run.source())) return STEP_UNREADABLE;
   std::int64_t first = firstDataLinePosition(run);
   if (noDataAt(first, file.length())) return STEP_NO_INCREMENT;
   IncrementWalk walk(linesPerRecord, run.dialect.delimiterChar());

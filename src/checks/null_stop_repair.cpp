@@ -38,7 +38,9 @@ bool repairNullStop(RunContext& run, const std::string& nullStop, const std::str
   }
   run.nullStopRepaired = true;
   run.dataScan = {};
-  buildSectionIndex(run.lasFile, run.dialect, run.sections);
+  // The rewrite put a new file at the path: read that one from now on.
+  run.closeSource();
+  buildSectionIndex(run.source(), run.dialect, run.sections);
   return true;
 }
 

@@ -12,6 +12,7 @@
 #include "checks/data_scan.h"
 #include "checks/run_observer.h"
 #include "las/dialect.h"
+#include "las/las_file.h"
 #include "las/section_types.h"
 
 namespace zorvik {
@@ -45,6 +46,12 @@ struct RunContext {
   // command-line tool keeps them for its own output and leaves the log to the batch form).
   std::function<void(std::string_view message)> logSink;
 
+  // The LAS file, opened once for every reader of the run: at the first use, and again when the
+  // run has rewritten it (or certifies another file in the same context).
+  const LasFile& source();
+  // Closes the file, so that the next use opens what is now at the path.
+  void closeSource() { source_.close(); }
+
   bool isV3() const { return dialect.isV3(); }
   // The table the verdict and the report read: 3.0's for a 3.0 file, else 1.2/2.0's.
   CheckTable& results() { return isV3() ? table3 : table2; }
@@ -53,6 +60,9 @@ struct RunContext {
   // Appends `message` to the command log under this run's file names and status line (or hands
   // it to the log sink).
   void log(std::string_view message) const;
+
+ private:
+  LasFile source_;
 };
 
 }  // namespace zorvik

@@ -384,14 +384,14 @@ int checkSectionStructure(RunContext& run, Slots& slots) {
     const bool v3 = run.isV3();
     for (int k = 1; k <= 14; ++k) slots[k] = (v3 || k <= 3) ? " " : "";
 
-    if (run.sections.entries.empty() && !buildSectionIndex(run.lasFile, run.dialect, run.sections))
+    if (run.sections.entries.empty() && !buildSectionIndex(run.source(), run.dialect, run.sections))
       return CHECK_FAULT;
     const std::vector<Title> titles = titlesOf(run.sections.entries);
 
     if (!v3) {
       minimumSections2(titles, slots[1]);
       slots[3].clear();
-      checkTitleLines2(run.lasFile, slots[3]);
+      checkTitleLines2(run.source(), slots[3]);
       duplicates2(titles, slots[2]);
     } else {
       minimumSections3(titles, run.sections, slots[1]);

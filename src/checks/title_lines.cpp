@@ -62,11 +62,10 @@ void judgeLine2(std::string_view line, std::string& slot) {
 // of the line that holds the first byte of the block in hand.
 constexpr std::int64_t BLOCK_BYTES = 256 * 1024;
 
-int runPass(const std::string& fileName, std::string& slot,
-            void (*judge)(std::string_view, std::string&)) {
+int runPass(const LasFile& file, std::string& slot, void (*judge)(std::string_view, std::string&)) {
   try {
     LineReader reader;
-    if (!reader.open(fileName)) return CHECK_FAULT;
+    if (!reader.open(file)) return CHECK_FAULT;
     std::string block;
     std::string_view line;
     std::int64_t blockStart = 1;
@@ -120,12 +119,12 @@ int runPass(const std::string& fileName, std::string& slot,
 
 }  // namespace
 
-int checkTitleLines3(const std::string& fileName, std::string& slot) {
-  return runPass(fileName, slot, judgeLine3);
+int checkTitleLines3(const LasFile& file, std::string& slot) {
+  return runPass(file, slot, judgeLine3);
 }
 
-int checkTitleLines2(const std::string& fileName, std::string& slot) {
-  return runPass(fileName, slot, judgeLine2);
+int checkTitleLines2(const LasFile& file, std::string& slot) {
+  return runPass(file, slot, judgeLine2);
 }
 
 }  // namespace zorvik

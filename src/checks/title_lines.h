@@ -9,9 +9,11 @@
 
 #include <string>
 
+#include "las/las_file.h"
+
 namespace zorvik {
 
-int checkTitleLines3(const std::string& fileName, std::string& slot);
-int checkTitleLines2(const std::string& fileName, std::string& slot);
+int checkTitleLines3(const LasFile& file, std::string& slot);
+int checkTitleLines2(const LasFile& file, std::string& slot);
 
 }  // namespace zorvik

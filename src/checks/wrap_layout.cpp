@@ -35,38 +35,36 @@ bool serviceWindow(RunObserver* observer) {
   return observer->cancelRequested();
 }
 
-std::int64_t dataSectionStart(const std::string& fileName, const Dialect& dialect,
-                              SectionIndex& sections) {
+std::int64_t dataSectionStart(const LasFile& file, const Dialect& dialect, SectionIndex& sections) {
   std::string found;
   for (const std::string& name : {sections.dataName, std::string("Log_Data"), std::string("A")}) {
     if (name.empty()) continue;
-    if (std::int64_t pos = findSection(fileName, dialect, sections, name, found); pos > 0)
-      return pos;
+    if (std::int64_t pos = findSection(file, dialect, sections, name, found); pos > 0) return pos;
   }
   return 0;
 }
 
-int curveLineCount(const std::string& fileName, const Dialect& dialect, SectionIndex& sections) {
+int curveLineCount(const LasFile& file, const Dialect& dialect, SectionIndex& sections) {
   const std::string& curve = sections.curveName;
   if (curve.empty()) return 0;
   ParamTable table;
-  parseSectionTable(fileName, dialect, sections, table, curve);
+  parseSectionTable(file, dialect, sections, table, curve);
   return table.lastEntry();
 }
 
 }  // namespace
 
-int analyseWrap(const std::string& fileName, const Dialect& dialect, SectionIndex& sections,
+int analyseWrap(const LasFile& source, const Dialect& dialect, SectionIndex& sections,
                 RunObserver* observer, int& linesPerRecord, int& bufferLength, int& channels,
                 int sampleHint) {
   linesPerRecord = bufferLength = channels = 0;
-  std::int64_t start = dataSectionStart(fileName, dialect, sections);
+  std::int64_t start = dataSectionStart(source, dialect, sections);
   LineReader file;
-  if (start <= 0 || !file.open(fileName) || start >= file.length()) return WRAP_UNDETERMINED;
+  if (start <= 0 || !file.open(source) || start >= file.length()) return WRAP_UNDETERMINED;
   const std::string delimiter = dialect.delimiter.empty() ? std::string(" ") : dialect.delimiter;
 
   // About three fifths of the channel count: enough lines for two records of any usual layout.
-  int count = sampleHint > 0 ? sampleHint : curveLineCount(fileName, dialect, sections);
+  int count = sampleHint > 0 ? sampleHint : curveLineCount(source, dialect, sections);
   std::size_t sampleSize = static_cast<std::size_t>(std::floor(count / 5.0 * 3.0));
 
   std::vector<SampledLine> lines;
@@ -107,7 +105,7 @@ int analyseWrap(const std::string& fileName, const Dialect& dialect, SectionInde
 
 int analyseWrap(RunContext& run, int& linesPerRecord, int& bufferLength, int& channels,
                 int sampleHint) {
-  return analyseWrap(run.lasFile, run.dialect, run.sections, run.observer, linesPerRecord,
+  return analyseWrap(run.source(), run.dialect, run.sections, run.observer, linesPerRecord,
                      bufferLength, channels, sampleHint);
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "las/dialect.h"
+#include "las/las_file.h"
 #include "las/section_types.h"
 
 namespace zorvik {
@@ -23,7 +24,7 @@ inline constexpr int WRAP_CANCELLED = 4;
 // channels per record (the first line's for unwrapped data). Never fails: unreadable data is
 // WRAP_UNDETERMINED with outputs 0.
 // `observer` (may be null) sees the sample being read and may cancel it (WRAP_CANCELLED).
-int analyseWrap(const std::string& fileName, const Dialect& dialect, SectionIndex& sections,
+int analyseWrap(const LasFile& file, const Dialect& dialect, SectionIndex& sections,
                 RunObserver* observer, int& linesPerRecord, int& bufferLength, int& channels,
                 int sampleHint);
 // The same for the run's LAS file.

@@ -164,10 +164,10 @@ bool mnemonicListHas(std::string_view list, std::string_view mnemonic) {
   return false;
 }
 
-int parseSectionTable(const std::string& fileName, const Dialect& dialect, SectionIndex& index,
+int parseSectionTable(const LasFile& file, const Dialect& dialect, SectionIndex& index,
                       ParamTable& table, std::string_view sectionName) {
   table.reset();
-  std::string text = sectionText(fileName, dialect, index, sectionName);
+  std::string text = sectionText(file, dialect, index, sectionName);
   if (text.empty()) return 1;
   std::erase(text, '\n');
   // Compared with each line's own period position: a line without a colon of its own still

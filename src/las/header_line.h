@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "las/dialect.h"
+#include "las/las_file.h"
 #include "las/section_types.h"
 
 namespace zorvik {
@@ -73,7 +74,7 @@ struct ParamTable {
 };
 
 // Builds the table of section `sectionName` of the file: -1 built, 1 when the section has no text.
-int parseSectionTable(const std::string& fileName, const Dialect& dialect, SectionIndex& index,
+int parseSectionTable(const LasFile& file, const Dialect& dialect, SectionIndex& index,
                       ParamTable& table, std::string_view sectionName);
 
 // The value of the first entry whose mnemonic equals `mnemonic` (ignoring case); a single space

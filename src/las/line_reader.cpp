@@ -14,27 +14,31 @@ LineReader::~LineReader() {
 
 bool LineReader::open(const std::string& path) {
   close();
-  std::error_code ec;
-  if (std::filesystem::is_directory(path, ec)) {
-    errno = EISDIR;
-    return false;
-  }
-  file_ = std::fopen(path.c_str(), "rb");
-  if (file_ == nullptr) return false;
-  // The reader does its own buffering; a second layer in stdio would only copy twice.
-  std::setvbuf(file_, nullptr, _IONBF, 0);
-  length_ = fileLength(path);
-  if (length_ < 0) length_ = 0;
+  if (!own_.open(path)) return false;
+  file_ = &own_;
+  reset();
+  return true;
+}
+
+bool LineReader::open(const LasFile& file) {
+  close();
+  if (!file.isOpen()) return false;
+  file_ = &file;
+  reset();
+  return true;
+}
+
+void LineReader::reset() {
+  length_ = file_->length();
   buffer_.resize(BUFFER_BYTES);
   bufStart_ = 0;
   bufPos_ = bufEnd_ = 0;
   lineStart_ = lineLength_ = 0;
   lineTruncated_ = false;
-  return true;
 }
 
 void LineReader::close() {
-  if (file_ != nullptr) std::fclose(file_);
+  own_.close();
   file_ = nullptr;
   bufStart_ = 0;
   bufPos_ = bufEnd_ = 0;
@@ -50,9 +54,11 @@ bool LineReader::fill() {
     bufPos_ = 0;
   }
   if (bufEnd_ == buffer_.size()) return false;
-  std::size_t n = std::fread(buffer_.data() + bufEnd_, 1, buffer_.size() - bufEnd_, file_);
-  bufEnd_ += n;
-  return n > 0;
+  std::int64_t n = file_->readAt(bufStart_ + static_cast<std::int64_t>(bufEnd_),
+                                 buffer_.data() + bufEnd_, buffer_.size() - bufEnd_);
+  if (n <= 0) return false;
+  bufEnd_ += static_cast<std::size_t>(n);
+  return true;
 }
 
 bool LineReader::readLine(std::string_view& line) {
@@ -135,10 +141,6 @@ void LineReader::seek(std::int64_t pos) {
   if (offset >= bufStart_ && offset <= bufStart_ + static_cast<std::int64_t>(bufEnd_)) {
     bufPos_ = static_cast<std::size_t>(offset - bufStart_);
     return;
-  }
-  if (std::fseek(file_, static_cast<long>(offset), SEEK_SET) != 0) {
-    std::fseek(file_, 0, SEEK_END);
-    offset = length_;
   }
   bufStart_ = offset;
   bufPos_ = bufEnd_ = 0;

@@ -10,13 +10,17 @@
 // as its first `MAX_LINE_BYTES` bytes, the rest of it up to its terminator is skipped, and
 // `lineTruncated()` says so (`lineLength()` still tells the full length).
 //
+// A reader opens its file itself, or reads a LasFile that others read too: each reader keeps its
+// own buffer and position, so the checks of one run share one open file.
+//
 // Nothing here throws on bad input; a read error looks like the end of the file.
 #pragma once
 
 #include <cstdint>
-#include <cstdio>
 #include <string>
 #include <string_view>
+
+#include "las/las_file.h"
 
 namespace zorvik {
 
@@ -27,12 +31,15 @@ class LineReader {
 
   LineReader() = default;
   explicit LineReader(const std::string& path) { open(path); }
+  explicit LineReader(const LasFile& file) { open(file); }
   ~LineReader();
   LineReader(const LineReader&) = delete;
   LineReader& operator=(const LineReader&) = delete;
 
   // Opens the file for reading; false (and errno set) when it cannot be opened or is a directory.
   bool open(const std::string& path);
+  // Reads `file`, which must outlive the reader (or its next open); false when it is not open.
+  bool open(const LasFile& file);
   void close();
   bool isOpen() const { return file_ != nullptr; }
 
@@ -62,7 +69,10 @@ class LineReader {
   // nothing more could be read.
   bool fill();
 
-  std::FILE* file_ = nullptr;
+  void reset();
+
+  LasFile own_;                    // the file this reader opened itself
+  const LasFile* file_ = nullptr;  // the file read: own_ or a shared one
   std::int64_t length_ = 0;
   std::int64_t bufStart_ = 0;  // 0-based file offset of buffer_[0]
   std::int64_t lineStart_ = 0;

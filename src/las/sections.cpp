@@ -93,11 +93,11 @@ std::string splitArrayIndex(std::string_view name, int& index) {
   return std::string(splitArrayIndexView(name, index));
 }
 
-bool buildSectionIndex(const std::string& fileName, const Dialect& dialect, SectionIndex& index) {
+bool buildSectionIndex(const LasFile& file, const Dialect& dialect, SectionIndex& index) {
   index.entries.clear();
   index.groups.clear();
   LineReader reader;
-  if (!reader.open(fileName)) return false;
+  if (!reader.open(file)) return false;
   const bool v3 = dialect.isV3();
 
   std::string_view line;
@@ -138,23 +138,23 @@ bool buildSectionIndex(const std::string& fileName, const Dialect& dialect, Sect
   return true;
 }
 
-std::int64_t findSection(const std::string& fileName, const Dialect& dialect, SectionIndex& index,
+std::int64_t findSection(const LasFile& file, const Dialect& dialect, SectionIndex& index,
                          std::string_view name, std::string& foundName) {
   foundName.clear();
-  if (index.entries.empty() && !buildSectionIndex(fileName, dialect, index)) return 0;
+  if (index.entries.empty() && !buildSectionIndex(file, dialect, index)) return 0;
   int i = firstSectionNamed(index.entries, name);
   if (i < 0) return 0;
   foundName = index.entries[i].name;
   return index.entries[i].start;
 }
 
-std::string sectionText(const std::string& fileName, const Dialect& dialect, SectionIndex& sections,
+std::string sectionText(const LasFile& file, const Dialect& dialect, SectionIndex& sections,
                         std::string_view name) {
   std::string found;
-  std::int64_t start = findSection(fileName, dialect, sections, name, found);
+  std::int64_t start = findSection(file, dialect, sections, name, found);
   const auto& index = sections.entries;
   int i = firstSectionNamed(index, name);
-  std::int64_t length = fileLength(fileName);
+  std::int64_t length = file.isOpen() ? file.length() : -1;
   std::int64_t end = length + 1;  // one past the last byte: the last section reads to the end
   std::string nextTitle;
   if (i >= 0 && static_cast<std::size_t>(i) + 1 < index.size()) {
@@ -163,7 +163,7 @@ std::string sectionText(const std::string& fileName, const Dialect& dialect, Sec
   }
   if (start == 0 || end <= start || end > length + 1) return {};
 
-  LineReader reader(fileName);
+  LineReader reader(file);
   std::string text;
   std::int64_t count = std::min<std::int64_t>(end - start, SECTION_TEXT_LIMIT);
   reader.readRange(start, count, text);
@@ -175,13 +175,12 @@ std::string sectionText(const std::string& fileName, const Dialect& dialect, Sec
   return text;
 }
 
-bool locateStandardSections(const std::string& fileName, const Dialect& dialect,
-                            SectionIndex& index) {
+bool locateStandardSections(const LasFile& file, const Dialect& dialect, SectionIndex& index) {
   index.dataName.clear();
   index.curveName.clear();
   index.paramName.clear();
   index.standardFound = false;
-  buildSectionIndex(fileName, dialect, index);
+  buildSectionIndex(file, dialect, index);
   const bool v3 = dialect.isV3();
 
   std::string curve, data, param;         // the standard names

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "las/dialect.h"
+#include "las/las_file.h"
 #include "las/section_types.h"
 
 namespace zorvik {
@@ -20,10 +21,10 @@ std::string_view splitArrayIndexView(std::string_view name, int& index);
 
 // Rebuilds `index.entries` and `index.groups` from the file; false when the file cannot be opened
 // (the index then stays empty).
-bool buildSectionIndex(const std::string& fileName, const Dialect& dialect, SectionIndex& index);
-// Start position of the first section named `name` (building the index from `fileName` when it is
+bool buildSectionIndex(const LasFile& file, const Dialect& dialect, SectionIndex& index);
+// Start position of the first section named `name` (building the index from `file` when it is
 // empty); 0 when none.
-std::int64_t findSection(const std::string& fileName, const Dialect& dialect, SectionIndex& index,
+std::int64_t findSection(const LasFile& file, const Dialect& dialect, SectionIndex& index,
                          std::string_view name, std::string& foundName);
 
 // Largest text `sectionText` gives back; a longer section is cut there. Header sections are far
@@ -31,12 +32,11 @@ std::int64_t findSection(const std::string& fileName, const Dialect& dialect, Se
 inline constexpr std::int64_t SECTION_TEXT_LIMIT = 64 * 1024 * 1024;
 // Raw text of the first section named `name` (CR LF kept, ending with the CR of its last line);
 // "" when the section is missing or empty.
-std::string sectionText(const std::string& fileName, const Dialect& dialect, SectionIndex& index,
+std::string sectionText(const LasFile& file, const Dialect& dialect, SectionIndex& index,
                         std::string_view name);
 // Rebuilds the index and sets its data, curve and parameter names and `standardFound`. True once
 // the search has run.
-bool locateStandardSections(const std::string& fileName, const Dialect& dialect,
-                            SectionIndex& index);
+bool locateStandardSections(const LasFile& file, const Dialect& dialect, SectionIndex& index);
 // Role of the last section named `name`; -1 when none.
 int sectionRoleOf(const SectionIndex& index, std::string_view name);
 

@@ -57,7 +57,7 @@ std::string quoteKey(std::string_view line) {
 // One pass over the file: every quoted line gets the number of the first line of the file that
 // reads like it and has not been taken by an earlier finding of the same text; the quote then
 // becomes that line's own bytes (checks show a tab as "<Tab>", for one).
-void numberFindings(const std::string& path, std::vector<CheckOutcome>& rows) {
+void numberFindings(const LasFile& file, std::vector<CheckOutcome>& rows) {
   struct Seen {
     std::vector<std::uint64_t> numbers;
     std::string line;  // the first such line exactly as the file holds it
@@ -68,7 +68,7 @@ void numberFindings(const std::string& path, std::vector<CheckOutcome>& rows) {
       if (!trim(finding.quoted).empty()) wanted.emplace(quoteKey(finding.quoted), Seen{});
   if (wanted.empty()) return;
 
-  LineReader reader(path);
+  LineReader reader(file);
   std::string_view line;
   for (std::uint64_t number = 1; reader.readLine(line); ++number) {
     auto found = wanted.find(quoteKey(line));
@@ -203,15 +203,12 @@ FileCertification certifyFile(const std::string& path, const CertifyOptions& opt
     if (std::filesystem::exists(path, ec)) return unreadable("not a regular file");
     return unreadable("no such file");
   }
-  if (std::FILE* probe = std::fopen(path.c_str(), "rb")) {
-    std::fclose(probe);
-  } else {
-    return unreadable(faultFromErrno(errno).description);
-  }
 
   // Each certification has a context of its own, so files certify side by side on threads.
   RunContext context;
   context.lasFile = path;
+  if (!context.source().isOpen())
+    return unreadable(faultFromErrno(context.source().openError()).description);
   context.logFile = options.reportFile;
   context.doWrap = options.wrapChecks;
   std::vector<std::string> messages;
@@ -224,7 +221,7 @@ FileCertification certifyFile(const std::string& path, const CertifyOptions& opt
     result.verdict = Verdict::Failed;
     result.note = "a processing error ended the certification: " + currentFault().description;
   }
-  numberFindings(path, result.rows);
+  numberFindings(context.source(), result.rows);
   return result;
 }
 

@@ -38,7 +38,7 @@ int beginRun(RunContext& run, Slots& group1) {
   run.table2.clear();
   layOutCatalogue(run);
 
-  int fileStatus = fileLevelChecks(run.lasFile, group1);
+  int fileStatus = fileLevelChecks(run, group1);
   for (int row = 1; row <= run.table2.lastRow(); ++row) run.table2.at(row, COL_MARK, 1) = " ";
   return fileStatus;
 }

@@ -132,11 +132,12 @@ bool unwrapFile(const std::string& source, const std::string& destination, RunOb
   Dialect dialect;
   dialect.version = 2.0f;
   SectionIndex sections;
-  locateStandardSections(source, dialect, sections);
+  const LasFile file(source);
+  locateStandardSections(file, dialect, sections);
   int linesPerRecord = 0;
   int bufferLength = 0;
   int channels = 0;
-  if (analyseWrap(source, dialect, sections, observer, linesPerRecord, bufferLength, channels, 0) !=
+  if (analyseWrap(file, dialect, sections, observer, linesPerRecord, bufferLength, channels, 0) !=
       WRAP_WRAPPED)
     return true;
 

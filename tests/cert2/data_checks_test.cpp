@@ -125,7 +125,7 @@ std::string dataGroups(const std::string& path, const std::string& wrap, bool ke
   run.lasFile = path;
   run.dialect.version = 2.0f;
   run.doWrap = true;
-  locateStandardSections(path, run.dialect, run.sections);
+  locateStandardSections(LasFile(path), run.dialect, run.sections);
   ParamTable well = testing::sectionTable(run, "Well");
   ParamTable curve = testing::sectionTable(run, "Curve");
   Slots slots4, slots6, slots7;

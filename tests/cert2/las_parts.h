@@ -48,13 +48,13 @@ inline RunContext prepareLas(const std::string& name, const std::string& bytes) 
   RunContext run;
   run.lasFile = writeScratchFile(name, bytes);
   run.dialect.version = 2.0f;
-  locateStandardSections(run.lasFile, run.dialect, run.sections);
+  locateStandardSections(run.source(), run.dialect, run.sections);
   return run;
 }
 
 inline ParamTable sectionTable(RunContext& run, const std::string& name) {
   ParamTable table;
-  parseSectionTable(run.lasFile, run.dialect, run.sections, table, name);
+  parseSectionTable(run.source(), run.dialect, run.sections, table, name);
   return table;
 }
 

@@ -35,7 +35,7 @@ Slots runOn(const std::string& path, const Check& check, int& result) {
   run.lasFile = path;
   run.dialect.version = 3.0f;
   run.dialect.delimiter = ",";
-  locateStandardSections(path, run.dialect, run.sections);
+  locateStandardSections(LasFile(path), run.dialect, run.sections);
   Slots slots;
   slots.fill(" ");
   result = check(run, slots);

@@ -27,7 +27,7 @@ int runStructure(const std::vector<std::string>& titles, Slots& slots) {
   RunContext run;
   run.lasFile = path;
   run.dialect.version = 3.0f;
-  locateStandardSections(path, run.dialect, run.sections);
+  locateStandardSections(LasFile(path), run.dialect, run.sections);
   return checkSectionStructure(run, slots);
 }
 

@@ -49,9 +49,11 @@ TEST(TitleLines, EachPassJudgesTildeLinesByItsOwnRules) {
     SCOPED_TRACE(row.what);
     const std::string path = dir.write("titles.las", row.file);
     std::string slot3, slot2;
-    EXPECT_EQ(checkTitleLines3(path, slot3), row.expected3.empty() ? CHECK_PASSED : CHECK_FAILED);
+    EXPECT_EQ(checkTitleLines3(LasFile(path), slot3),
+              row.expected3.empty() ? CHECK_PASSED : CHECK_FAILED);
     EXPECT_EQ(slot3, row.expected3);
-    EXPECT_EQ(checkTitleLines2(path, slot2), row.expected2.empty() ? CHECK_PASSED : CHECK_FAILED);
+    EXPECT_EQ(checkTitleLines2(LasFile(path), slot2),
+              row.expected2.empty() ? CHECK_PASSED : CHECK_FAILED);
     EXPECT_EQ(slot2, row.expected2);
   }
 }
@@ -71,8 +73,8 @@ TEST(TitleLines, LinesAcrossReadBlocksAreFoundWhole) {
       const std::string path =
           dir.write("blocks.las", head + filler + end + "x~y" + end + longLine + end + "~A" + end);
       std::string slot3, slot2;
-      checkTitleLines3(path, slot3);
-      checkTitleLines2(path, slot2);
+      checkTitleLines3(LasFile(path), slot3);
+      checkTitleLines2(LasFile(path), slot2);
       EXPECT_EQ(slot3, NOT_FIRST + "x~y\r\n" + NOT_FIRST + longLine + "\r\n");
       EXPECT_EQ(slot2, NOT_FIRST + "x~y" + NOT_FIRST + longLine);
     }

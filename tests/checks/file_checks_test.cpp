@@ -6,6 +6,7 @@
 
 #include <filesystem>
 
+#include "checks/run_context.h"
 #include "support/scratch.h"
 
 namespace zorvik {
@@ -70,8 +71,9 @@ TEST(FileLevelChecks, GiveGroupOneResults) {
       dir.write(row.fileName, row.bytes);
     }
     Slots results;
-    EXPECT_EQ(fileLevelChecks(row.fileName, results),
-              row.findings.empty() ? RUN_COMPLETED : RUN_STOPPED);
+    RunContext run;
+    run.lasFile = row.fileName;
+    EXPECT_EQ(fileLevelChecks(run, results), row.findings.empty() ? RUN_COMPLETED : RUN_STOPPED);
     std::string findings;
     for (int r = 1; r <= 15; ++r) {
       if (!results[r].empty())

@@ -83,7 +83,7 @@ TEST_F(Sections, IndexOfTitles) {
   for (const auto& [version, titles, expected] : rows) {
     SCOPED_TRACE(titles);
     dialect_.version = version;
-    ASSERT_TRUE(buildSectionIndex(writeTitles(titles), dialect_, sections_));
+    ASSERT_TRUE(buildSectionIndex(LasFile(writeTitles(titles)), dialect_, sections_));
     std::string index;
     for (const SectionEntry& e : sections_.entries) {
       index += (index.empty() ? "" : " ") + e.name + ":" + std::string_view("HDCPO").at(e.role);
@@ -95,7 +95,7 @@ TEST_F(Sections, IndexOfTitles) {
 
 TEST_F(Sections, Version3Groups) {
   dialect_.version = 3.0f;
-  ASSERT_TRUE(buildSectionIndex(kV30, dialect_, sections_));
+  ASSERT_TRUE(buildSectionIndex(LasFile(kV30), dialect_, sections_));
   ASSERT_EQ(sections_.entries.size(), 10u);
   // Section numbers (1-based) of data, definition and parameter; the later Log_Data[2] wins.
   using Group = std::tuple<std::string, int, int, int>;
@@ -115,30 +115,31 @@ TEST_F(Sections, LookupsUseTheFirstSectionOfAName) {
   for (const auto& [name, foundName, start, text] : rows) {
     SCOPED_TRACE(name);
     std::string found = "stale";
-    EXPECT_EQ(findSection(kV30, dialect_, sections_, name, found),
+    EXPECT_EQ(findSection(LasFile(kV30), dialect_, sections_, name, found),
               start);  // builds the index lazily
     EXPECT_EQ(found, foundName);
-    EXPECT_EQ(sectionText(kV30, dialect_, sections_, name), text);
+    EXPECT_EQ(sectionText(LasFile(kV30), dialect_, sections_, name), text);
   }
   // A built index is used as it stands, whatever file is named.
   std::string found;
-  EXPECT_EQ(findSection(missing, dialect_, sections_, "Well", found), startAfter(bytes, "~Well"));
+  EXPECT_EQ(findSection(LasFile(missing), dialect_, sections_, "Well", found),
+            startAfter(bytes, "~Well"));
   dialect_ = {};
   sections_ = {};
-  EXPECT_EQ(findSection(missing, dialect_, sections_, "Well", found), 0);
-  EXPECT_EQ(sectionText(missing, dialect_, sections_, "Well"), "");
+  EXPECT_EQ(findSection(LasFile(missing), dialect_, sections_, "Well", found), 0);
+  EXPECT_EQ(sectionText(LasFile(missing), dialect_, sections_, "Well"), "");
 }
 
 TEST_F(Sections, SectionTextOfAVersion2File) {
   dialect_.version = 2.0f;
-  EXPECT_EQ(sectionText(kV20, dialect_, sections_, "Parameter"),
+  EXPECT_EQ(sectionText(LasFile(kV20), dialect_, sections_, "Parameter"),
             "RUN.  1\r\nMUD .\tGEL : MUD TYPE\r\n\r\nBHT .DEGC   35.5 : BOTTOM HOLE TEMPERATURE\r");
   // The last section reads to the end of the file, but an empty one has no text.
-  EXPECT_EQ(sectionText(kV20, dialect_, sections_, "A"),
+  EXPECT_EQ(sectionText(LasFile(kV20), dialect_, sections_, "A"),
             "1670.000  45.0  0.27\r\n1669.875  46.0  0.28\r\n1669.750  47.0  0.29\r\n");
   dialect_ = {};
   sections_ = {};
-  EXPECT_EQ(sectionText(writeTitles("~V;~A"), dialect_, sections_, "A"), "");
+  EXPECT_EQ(sectionText(LasFile(writeTitles("~V;~A")), dialect_, sections_, "A"), "");
 }
 
 // Before 3.0 only data and curve sections make the standard sections found; 3.0 falls back on
@@ -155,14 +156,14 @@ TEST_F(Sections, StandardSectionNames) {
     dialect_ = {};
     sections_ = {};
     dialect_.version = version;
-    EXPECT_TRUE(locateStandardSections(writeTitles(titles), dialect_, sections_));
+    EXPECT_TRUE(locateStandardSections(LasFile(writeTitles(titles)), dialect_, sections_));
     EXPECT_EQ(std::tie(sections_.curveName, sections_.dataName, sections_.paramName,
                        sections_.standardFound),
               std::make_tuple(std::string(curve), std::string(data), std::string(param), found));
   }
   sections_.dataName = "stale";
-  EXPECT_TRUE(
-      locateStandardSections(testing::scratchFolder() + "/missing.las", dialect_, sections_));
+  EXPECT_TRUE(locateStandardSections(LasFile(testing::scratchFolder() + "/missing.las"), dialect_,
+                                     sections_));
   EXPECT_EQ(sections_.dataName, "");
   EXPECT_FALSE(sections_.standardFound);
 }

@@ -20,9 +20,9 @@ class V3Line : public ::testing::Test {
     sections_.dataName = "ASCII";
     // Roles by name: a header, a parameter, a definition, two data sections and one of no kind.
     buildSectionIndex(
-        testing::writeScratchFile("v3_line.las",
-                                  testing::crlfLines({"~Well", "~Parameter", "~Log_Definition",
-                                                      "~Log_Data[1]", "~Tops", "~ASCII"})),
+        LasFile(testing::writeScratchFile(
+            "v3_line.las", testing::crlfLines({"~Well", "~Parameter", "~Log_Definition",
+                                               "~Log_Data[1]", "~Tops", "~ASCII"}))),
         dialect_, sections_);
   }
 

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "base/file_writer.h"
 #include "base/text.h"
 #include "run/session.h"
 #include "support/batch_run.h"
@@ -59,6 +60,42 @@ TEST(BatchRun, WritesItsReportAndCommandLogEntries) {
                     kData + row.golden),
                 "");
     }
+  }
+}
+
+// Counts the opens of one file and lets every call through.
+class OpenCounter : public FileSystemCalls {
+ public:
+  explicit OpenCounter(std::string path) : path_(std::move(path)) {}
+  int open(const char* path, int flags, mode_t mode) override {
+    if (path_ == path) ++opens;
+    return FileSystemCalls::open(path, flags, mode);
+  }
+  int opens = 0;
+
+ private:
+  std::string path_;
+};
+
+// However many checks read it, a run opens its LAS file twice: once to find the version, once for
+// everything else.
+TEST(BatchRun, OpensTheLasFileTwice) {
+  for (const char* example :
+       {"example_20.las", "example_20_wrapped.las", "example_30.las", "example_30_log_sets.las"}) {
+    SCOPED_TRACE(example);
+    testing::RunSandbox sandbox;
+    Session session;
+    session.lasFile =
+        sandbox.dir().write(example, readBytes(std::string(ZORVIK_EXAMPLES) + "/" + example));
+    session.logFile = sandbox.dir().file("out.log");
+    session.doWrap = true;
+    OpenCounter counter(session.lasFile);
+    {
+      ScopedFileSystemCalls installed(counter);
+      doBatchMode(session);
+    }
+    EXPECT_NE(readBytes(session.logFile).find("PASSED"), std::string::npos);
+    EXPECT_EQ(counter.opens, 2);
   }
 }
 

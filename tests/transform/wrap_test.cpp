@@ -57,7 +57,7 @@ TEST(AnalyseWrap, FindsTheLinesOfOneRecord) {
     RunContext run;
     run.lasFile = path;
     run.dialect.version = 2.0f;
-    locateStandardSections(path, run.dialect, run.sections);
+    locateStandardSections(LasFile(path), run.dialect, run.sections);
     testing::FakeWindow window;
     if (row.code == WRAP_CANCELLED) {
       window.onEvents = [&window](const std::string&) { window.cancel = true; };
