@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace zorvik {
@@ -34,6 +35,13 @@ struct SectionGroup {
   int parameter = 0;
 };
 
+// Where the sections of one name stand in the index: element numbers (0-based) of the first and
+// the last of them.
+struct NamePlaces {
+  int first = -1;
+  int last = -1;
+};
+
 // The sections of one file, in file order, with the 3.0 groups and the names the run found for
 // the standard data, definition and parameter sections ("" when none).
 struct SectionIndex {
@@ -43,6 +51,12 @@ struct SectionIndex {
   std::string curveName;
   std::string paramName;
   bool standardFound = false;
+  // Every name of `entries`, upper-cased, with its places: a lookup by name is one hash instead of
+  // a scan of the sections, so files of many thousands of sections stay linear. Rebuilt with the
+  // entries; `namesCover` is the number of entries it was built for (entries set by other means
+  // are looked up by a scan).
+  std::unordered_map<std::string, NamePlaces> names;
+  std::size_t namesCover = 0;
 };
 
 }  // namespace zorvik

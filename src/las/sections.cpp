@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <climits>
+#include <unordered_map>
 
 #include "base/text.h"
 #include "las/line_reader.h"
@@ -27,27 +28,35 @@ int roleOfName(std::string_view name, bool v3) {
   return ROLE_OTHER;
 }
 
-// Index (0-based) of the first section named `name`, -1 when none.
-int firstSectionNamed(const std::vector<SectionEntry>& index, std::string_view name) {
-  for (std::size_t i = 0; i < index.size(); ++i)
-    if (iequals(index[i].name, name)) return static_cast<int>(i);
-  return -1;
+// The places of the sections named `name` (compared ignoring case); both -1 when none.
+NamePlaces placesOf(const SectionIndex& index, std::string_view name) {
+  if (index.namesCover == index.entries.size()) {
+    const auto it = index.names.find(toUpper(name));
+    return it == index.names.end() ? NamePlaces{} : it->second;
+  }
+  NamePlaces places;
+  for (std::size_t i = 0; i < index.entries.size(); ++i) {
+    if (!iequals(index.entries[i].name, name)) continue;
+    if (places.first < 0) places.first = static_cast<int>(i);
+    places.last = static_cast<int>(i);
+  }
+  return places;
 }
 
 std::string_view cutAtSpace(std::string_view s) {
   return trimView(s.substr(0, s.find(' ')));
 }
 
-void addToGroups(std::vector<SectionGroup>& groups, const SectionEntry& entry, int sectionNumber) {
+// `groupOf` maps the upper-cased prefixes to their places in `groups`.
+void addToGroups(std::vector<SectionGroup>& groups,
+                 std::unordered_map<std::string, std::size_t>& groupOf, const SectionEntry& entry,
+                 int sectionNumber) {
   std::size_t underscore = entry.name.find('_');
   if (underscore == std::string::npos) return;
   std::string prefix = trim(std::string_view(entry.name).substr(0, underscore));
-  auto group = std::find_if(groups.begin(), groups.end(),
-                            [&](const SectionGroup& g) { return iequals(g.prefix, prefix); });
-  if (group == groups.end()) {
-    groups.push_back(SectionGroup{prefix, 0, 0, 0});
-    group = groups.end() - 1;
-  }
+  const auto [place, added] = groupOf.emplace(toUpper(prefix), groups.size());
+  if (added) groups.push_back(SectionGroup{prefix, 0, 0, 0});
+  SectionGroup* group = &groups[place->second];
   // A later section of the same role and prefix replaces an earlier one.
   if (entry.role == ROLE_DATA) group->data = sectionNumber;
   if (entry.role == ROLE_DEFINITION) group->definition = sectionNumber;
@@ -96,6 +105,8 @@ std::string splitArrayIndex(std::string_view name, int& index) {
 bool buildSectionIndex(const LasFile& file, const Dialect& dialect, SectionIndex& index) {
   index.entries.clear();
   index.groups.clear();
+  index.names.clear();
+  index.namesCover = 0;
   LineReader reader;
   if (!reader.open(file)) return false;
   const bool v3 = dialect.isV3();
@@ -130,11 +141,16 @@ bool buildSectionIndex(const LasFile& file, const Dialect& dialect, SectionIndex
     }
   }
 
+  std::unordered_map<std::string, std::size_t> groupOf;
   for (std::size_t i = 0; i < index.entries.size(); ++i) {
     SectionEntry& e = index.entries[i];
     e.role = roleOfName(e.name, v3);
-    addToGroups(index.groups, e, static_cast<int>(i) + 1);
+    addToGroups(index.groups, groupOf, e, static_cast<int>(i) + 1);
+    NamePlaces& places = index.names[toUpper(e.name)];
+    if (places.first < 0) places.first = static_cast<int>(i);
+    places.last = static_cast<int>(i);
   }
+  index.namesCover = index.entries.size();
   return true;
 }
 
@@ -142,7 +158,7 @@ std::int64_t findSection(const LasFile& file, const Dialect& dialect, SectionInd
                          std::string_view name, std::string& foundName) {
   foundName.clear();
   if (index.entries.empty() && !buildSectionIndex(file, dialect, index)) return 0;
-  int i = firstSectionNamed(index.entries, name);
+  const int i = placesOf(index, name).first;
   if (i < 0) return 0;
   foundName = index.entries[i].name;
   return index.entries[i].start;
@@ -153,7 +169,7 @@ std::string sectionText(const LasFile& file, const Dialect& dialect, SectionInde
   std::string found;
   std::int64_t start = findSection(file, dialect, sections, name, found);
   const auto& index = sections.entries;
-  int i = firstSectionNamed(index, name);
+  const int i = placesOf(sections, name).first;
   std::int64_t length = file.isOpen() ? file.length() : -1;
   std::int64_t end = length + 1;  // one past the last byte: the last section reads to the end
   std::string nextTitle;
@@ -210,10 +226,8 @@ bool locateStandardSections(const LasFile& file, const Dialect& dialect, Section
 }
 
 int sectionRoleOf(const SectionIndex& sections, std::string_view name) {
-  const auto& index = sections.entries;
-  for (std::size_t i = index.size(); i-- > 0;)
-    if (iequals(index[i].name, name)) return index[i].role;
-  return -1;
+  const int last = placesOf(sections, name).last;
+  return last < 0 ? -1 : sections.entries[static_cast<std::size_t>(last)].role;
 }
 
 }  // namespace zorvik

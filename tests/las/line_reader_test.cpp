@@ -115,6 +115,34 @@ TEST(LineReader, SeekAndRangeUseOneBasedPositions) {
   EXPECT_EQ(range, "");
 }
 
+// A range read before anything is buffered is read on its own; reading goes on after it.
+TEST(LineReader, ARangeReadFirstLeavesTheReaderAfterIt) {
+  const std::string path = writeScratchFile("range.las", "~V\r\nVERS. 2.0 : v\r\n~A\r\n1 2\r\n");
+  struct Row {
+    std::int64_t pos, count;
+    const char* range;
+    const char* next;  // the line read after the range; nullptr: none
+  };
+  const Row rows[] = {{5, 4, "VERS", ". 2.0 : v"},
+                      {1, 4, "~V\r\n", "VERS. 2.0 : v"},
+                      {24, 100, "1 2\r\n", nullptr},
+                      {40, 5, "", nullptr}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.pos);
+    LineReader reader(path);
+    std::string range = "stale", line;
+    reader.readRange(row.pos, row.count, range);
+    EXPECT_EQ(range, row.range);
+    EXPECT_EQ(reader.readLine(line), row.next != nullptr);
+    if (row.next != nullptr) {
+      EXPECT_EQ(line, row.next);
+    }
+    reader.seek(1);  // and the whole file is still there
+    ASSERT_TRUE(reader.readLine(line));
+    EXPECT_EQ(line, "~V");
+  }
+}
+
 TEST(LineReader, UnreadableInputsGiveNoLines) {
   for (const std::string& path :
        {testing::scratchFolder() + "/missing.las", testing::scratchFolder()}) {

@@ -130,6 +130,35 @@ TEST_F(Sections, LookupsUseTheFirstSectionOfAName) {
   EXPECT_EQ(sectionText(LasFile(missing), dialect_, sections_, "Well"), "");
 }
 
+// Names are looked up ignoring case; a repeated name is found at its first section. An index
+// whose entries were set by hand is searched all the same.
+TEST_F(Sections, NameLookupsIgnoreCase) {
+  dialect_.version = 3.0f;
+  const LasFile file(
+      writeTitles("~Version;~Well;~Tops_Parameter;~tops_parameter;~Log_Data[2];~Remarks"));
+  ASSERT_TRUE(buildSectionIndex(file, dialect_, sections_));
+  const std::tuple<const char*, int, std::int64_t> rows[] = {{"TOPS_PARAMETER", ROLE_PARAMETER, 3},
+                                                             {"Log_data[2]", ROLE_DATA, 5},
+                                                             {"Log_Data", -1, 0},
+                                                             {"remarks", ROLE_OTHER, 6},
+                                                             {"Nowhere", -1, 0}};
+  const std::vector<SectionEntry> built = sections_.entries;
+  for (bool byHand : {false, true}) {
+    if (byHand) {
+      sections_ = {};
+      sections_.entries = built;
+    }
+    for (const auto& [name, role, section] : rows) {
+      SCOPED_TRACE(std::string(name) + (byHand ? " (entries set by hand)" : ""));
+      EXPECT_EQ(sectionRoleOf(sections_, name), role);
+      std::string found;
+      const std::int64_t start = findSection(file, dialect_, sections_, name, found);
+      EXPECT_EQ(start, section == 0 ? 0 : built[section - 1].start);
+      EXPECT_EQ(found, section == 0 ? "" : built[section - 1].name);
+    }
+  }
+}
+
 TEST_F(Sections, SectionTextOfAVersion2File) {
   dialect_.version = 2.0f;
   EXPECT_EQ(sectionText(LasFile(kV20), dialect_, sections_, "Parameter"),
