@@ -4,8 +4,8 @@
 #
 #   bench/bench_check_many.sh [--exe build/release/src/zorvik] [--files 1000] [--runs 3]
 #
-# The small files are written by gen_las.py (GEN_LAS, as for bench_certify.sh): 10 distinct
-# files of about 20 kB (plain and wrapped 2.0, comma-delimited 3.0), copied to FILES names.
+# The small files are written by the project's generator bench/make_las.py: 10 files of about
+# 20 kB (plain and wrapped 2.0, comma-delimited 3.0), copied to FILES names.
 # Everything lives in a scratch folder removed at the end. Wall times, median of RUNS.
 set -euo pipefail
 ROOT=$(cd "$(dirname "$0")/.." && pwd)
@@ -20,17 +20,14 @@ while [ $# -gt 0 ]; do
     *) echo "unknown option $1" >&2; exit 2 ;;
   esac
 done
-GEN_LAS="${GEN_LAS:-$ROOT/../shared/tools/gen_las.py}"
-[[ -f "$GEN_LAS" ]] || GEN_LAS="$ROOT/../../shared/tools/gen_las.py"
 
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 mkdir "$scratch/small"
 for i in $(seq 0 9); do
-  kind=()
-  case $((i % 3)) in 1) kind=(--wrap) ;; 2) kind=(--v3) ;; esac
-  python3 "$GEN_LAS" "$scratch/seed$i.las" --mb 0.02 --curves 8 --seed "$((i + 1))" "${kind[@]}" \
-    >/dev/null
+  kinds=(plain wrap v3)
+  python3 "$ROOT/bench/make_las.py" "$scratch/seed$i.las" --mb "0.02$i" --curves 8 \
+    --kind "${kinds[$((i % 3))]}" >/dev/null
 done
 for n in $(seq 1 "$FILES"); do
   cp "$scratch/seed$((n % 10)).las" "$scratch/small/w$(printf %04d "$n").las"
