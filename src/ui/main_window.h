@@ -5,6 +5,11 @@
 // the WindowOps interface; dialogs and desktop calls go through WindowServices so tests can
 // answer them. Controls carry the object names tests and scripts look them up by (tBut_0,
 // tabb, fg, errAt, progLab, stat_0, file_M, file_M_0, opt_M_1, pop_1_4, ...).
+//
+// One class, its member functions kept by concern: main_window.cpp (construction, mouse and close
+// events, message boxes), window_layout.cpp (tabs and status bar), window_command_table.cpp (the
+// buttons and menus, from one table), window_run_callbacks.cpp (WindowOps), window_commands.cpp
+// and window_documents.cpp (the commands).
 #pragma once
 
 #include <QMainWindow>
@@ -17,6 +22,7 @@
 
 class QAction;
 class QButtonGroup;
+class QHBoxLayout;
 class QLabel;
 class QListWidget;
 class QMenu;
@@ -89,6 +95,7 @@ class CertifyWindow : public QMainWindow, public WindowOps {
 
  private:
   void buildControls();
+  QHBoxLayout* buildButtonBar(QWidget* parent);
   void buildMenus();
   void buildStatusPanels();
   void showOptionStates();
