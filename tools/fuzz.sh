@@ -26,11 +26,19 @@ cmake --build build/fuzz -j "$(nproc)" --target "fuzz_$target"
 
 work="build/fuzz/work/$target"
 reproducers="tests/fuzz/reproducers/$target"
-mkdir -p "$work/corpus" "$work/tmp" "$reproducers"
+mkdir -p "$work/corpus" "$reproducers"
+# The whole-certification target writes and syncs a report for every input. On a disk those syncs
+# can stall behind other work for longer than the time limit, so its files go to a memory-backed
+# folder when the machine has one.
+if [ -d /dev/shm ] && [ -w /dev/shm ]; then
+  scratch=$(mktemp -d /dev/shm/zorvik-fuzz-XXXXXX)
+else
+  scratch=$(mktemp -d "$PWD/$work/tmp-XXXXXX")
+fi
+trap 'rm -rf "$scratch"' EXIT
 echo "Fuzzing $target for $minutes minute(s); new inputs in $work/corpus"
 status=0
-# The whole-certification target writes its files under TMPDIR; keep them out of /tmp.
-TMPDIR="$PWD/$work/tmp" "build/fuzz/tests/fuzz/fuzz_$target" -max_total_time=$((minutes * 60)) \
+TMPDIR="$scratch" "build/fuzz/tests/fuzz/fuzz_$target" -max_total_time=$((minutes * 60)) \
   -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 -artifact_prefix="$reproducers/" \
   "$work/corpus" "tests/fuzz/corpus/$target" || status=$?
 if [ -n "$(ls -A "$reproducers")" ]; then
