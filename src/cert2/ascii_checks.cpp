@@ -10,10 +10,10 @@ namespace zorvik {
 
 namespace {
 
-int evaluate(const Slots& slots) {
+CheckStatus evaluate(const Slots& slots) {
   for (int k = 1; k <= 4; ++k)
-    if (!slots[k].empty()) return CHECK_FAILED;
-  return CHECK_PASSED;
+    if (!slots[k].empty()) return CheckStatus::Failed;
+  return CheckStatus::Passed;
 }
 
 // The first bad record of one data section into slots 2 and 4, from group 4's pass over this very
@@ -59,8 +59,8 @@ RecordRules asciiRecordRules(const std::string& wrapValue, int linesPerRecord, i
   return rules;
 }
 
-int checkAsciiSection(RunContext& run, const std::string& wrapValue, int linesPerRecord,
-                      int channels, const ParamTable& curveTable, Slots& slots) {
+CheckStatus checkAsciiSection(RunContext& run, const std::string& wrapValue, int linesPerRecord,
+                              int channels, const ParamTable& curveTable, Slots& slots) {
   for (int k = 1; k <= 4; ++k) slots[k].clear();
   const std::vector<SectionEntry> index = run.sections.entries;
   std::int64_t length = fileLength(run.lasFile);
@@ -84,7 +84,7 @@ int checkAsciiSection(RunContext& run, const std::string& wrapValue, int linesPe
       return evaluate(slots);
     }
 
-    if (noDataAt(section.start, length)) return CHECK_FAULT;
+    if (noDataAt(section.start, length)) return CheckStatus::Fault;
     // Line lengths are judged only on request (/W), wrapped data or not.
     judgeRecords(run, section.start,
                  asciiRecordRules(wrapValue, linesPerRecord, definitions, run.doWrap), slots);

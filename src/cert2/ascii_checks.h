@@ -1,7 +1,7 @@
 // Group 7 of the 1.2/2.0 catalogue: channel counts of the data against ~Curve, record shape and
 // line lengths, and the data section being the file's last section.
 //
-// Never throws on bad input. CHECK_FAULT when the data section has no first data line.
+// Never throws on bad input. CheckStatus::Fault when the data section has no first data line.
 #pragma once
 
 #include <string>
@@ -15,11 +15,11 @@ namespace zorvik {
 
 struct RunContext;
 
-// Fills slots 1..4 and returns CHECK_PASSED, CHECK_FAILED or CHECK_FAULT. `linesPerRecord` and
-// `channels` are what group 4's wrap analysis found; line lengths of unwrapped data are judged
-// only when the run asks for the wrap checks.
-int checkAsciiSection(RunContext& run, const std::string& wrapValue, int linesPerRecord,
-                      int channels, const ParamTable& curveTable, Slots& slots);
+// Fills slots 1..4 and returns CheckStatus::Passed, CheckStatus::Failed or CheckStatus::Fault.
+// `linesPerRecord` and `channels` are what group 4's wrap analysis found; line lengths of unwrapped
+// data are judged only when the run asks for the wrap checks.
+CheckStatus checkAsciiSection(RunContext& run, const std::string& wrapValue, int linesPerRecord,
+                              int channels, const ParamTable& curveTable, Slots& slots);
 
 // The number of channel definitions the data section must carry values for: those of the section
 // it is associated with, or of the driver's ~Curve table when that is the one or the data names

@@ -21,10 +21,6 @@ namespace {
 
 constexpr int kWellGroup = 5;
 
-// Stands for the check's result once the user has answered "No" to the cancel question: the
-// recorder keeps nothing for it, so a check that failed just before the answer goes unrecorded.
-constexpr int kAnsweredNo = 7;
-
 // How the run goes on after a check.
 enum class Next { Go, Stop, Cancel, Fail };
 
@@ -71,7 +67,7 @@ bool onlyCountryNoteRecorded(const CheckTable& table) {
 }
 
 // Runs after every check: events, Escape, progress, recording and the stop rule.
-Next afterCheck(RunContext& run, int checkNumber, int& checkResult, const Slots& slots) {
+Next afterCheck(RunContext& run, int checkNumber, CheckStatus& checkResult, const Slots& slots) {
   CheckTable& table = run.table2;
   RunObserver* observer = run.observer;
 
@@ -82,7 +78,9 @@ Next afterCheck(RunContext& run, int checkNumber, int& checkResult, const Slots&
       if (observer->askYesNo("Please Confirm!",
                              "Do you want to cancel the certification in progress?"))
         return Next::Cancel;
-      checkResult = kAnsweredNo;
+      // The recorder keeps nothing for a check once the user has answered "No", so one that
+      // failed just before the answer goes unrecorded.
+      checkResult = CheckStatus::Nothing;
       observer->clearCancelRequest();
     }
     const int percent =
@@ -91,10 +89,10 @@ Next afterCheck(RunContext& run, int checkNumber, int& checkResult, const Slots&
                           "Doing check " + toText(checkNumber) + " (Press ESC to cancel...)");
   }
 
-  if (checkResult == CHECK_FAILED || checkResult == CHECK_FAULT) {
+  if (checkResult == CheckStatus::Failed || checkResult == CheckStatus::Fault) {
     storeGroupResults(table, checkNumber, slots);
   }
-  if (checkResult == CHECK_FAULT) return Next::Fail;
+  if (checkResult == CheckStatus::Fault) return Next::Fail;
 
   if (!onlyCountryNoteRecorded(table) && anyFailure(table)) return Next::Stop;
   return Next::Go;
@@ -104,7 +102,7 @@ Next afterCheck(RunContext& run, int checkNumber, int& checkResult, const Slots&
 // cannot go on.
 Next runChecks(RunContext& run, const Certify2Checks& checks) {
   CheckTable& table = run.table2;
-  int result = CHECK_FAULT;
+  CheckStatus result = CheckStatus::Fault;
   Next next = Next::Go;
 
   run.dialect.delimiter = currentDelimiter(run);
@@ -149,10 +147,10 @@ Next runChecks(RunContext& run, const Certify2Checks& checks) {
   result = checks.wellMnemonics(wellTable, table, slots);
   if (trimView(slots[1]).empty() && !slots[2].empty()) {
     table.at(2, COL_NOTE, kWellGroup) = slots[2];
-    result = CHECK_PASSED;
+    result = CheckStatus::Passed;
   }
   WellRange well;
-  if (result == CHECK_PASSED) {
+  if (result == CheckStatus::Passed) {
     well.strt = mnemonicValue(wellTable, "STRT");
     well.stop = mnemonicValue(wellTable, "STOP");
     well.step = mnemonicValue(wellTable, "STEP");
@@ -167,7 +165,7 @@ Next runChecks(RunContext& run, const Certify2Checks& checks) {
     run.nullStopRepaired = false;
     result = run.sections.standardFound
                  ? checks.indexRange(run, well, wrapValue, wellTable, curveTable, slots)
-                 : CHECK_PASSED;
+                 : CheckStatus::Passed;
   }
   if ((next = afterCheck(run, 6, result, slots)) != Next::Go) return next;
 

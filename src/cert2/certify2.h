@@ -23,16 +23,18 @@ int aaCertify2(RunContext& run);
 // The check procedures the driver calls, one per group. Tests replace some of them to drive the
 // run through states that real files reach only rarely.
 struct Certify2Checks {
-  int (*versionSection)(RunContext& run, const ParamTable& versionTable, std::string& wrapValue,
-                        Slots& slots);
-  int (*sectionStructure)(RunContext& run, Slots& slots);
-  int (*lineSyntax)(RunContext& run, const std::string& wrapValue, const ParamTable& curveTable,
-                    Slots& slots, int& linesPerRecord, int& channels);
-  int (*wellMnemonics)(const ParamTable& wellTable, CheckTable& table, Slots& slots);
-  int (*indexRange)(RunContext& run, const WellRange& well, const std::string& wrapValue,
-                    const ParamTable& wellTable, const ParamTable& curveTable, Slots& slots);
-  int (*asciiSection)(RunContext& run, const std::string& wrapValue, int linesPerRecord,
-                      int channels, const ParamTable& curveTable, Slots& slots);
+  CheckStatus (*versionSection)(RunContext& run, const ParamTable& versionTable,
+                                std::string& wrapValue, Slots& slots);
+  CheckStatus (*sectionStructure)(RunContext& run, Slots& slots);
+  CheckStatus (*lineSyntax)(RunContext& run, const std::string& wrapValue,
+                            const ParamTable& curveTable, Slots& slots, int& linesPerRecord,
+                            int& channels);
+  CheckStatus (*wellMnemonics)(const ParamTable& wellTable, CheckTable& table, Slots& slots);
+  CheckStatus (*indexRange)(RunContext& run, const WellRange& well, const std::string& wrapValue,
+                            const ParamTable& wellTable, const ParamTable& curveTable,
+                            Slots& slots);
+  CheckStatus (*asciiSection)(RunContext& run, const std::string& wrapValue, int linesPerRecord,
+                              int channels, const ParamTable& curveTable, Slots& slots);
 };
 
 // The procedures aaCertify2 uses.

@@ -142,8 +142,9 @@ const SectionEntry* walkedDataSection(RunContext& run) {
 
 }  // namespace
 
-int checkLineSyntax(RunContext& run, const std::string& wrapValue, const ParamTable& curveTable,
-                    Slots& slots, int& linesPerRecord, int& channels) {
+CheckStatus checkLineSyntax(RunContext& run, const std::string& wrapValue,
+                            const ParamTable& curveTable, Slots& slots, int& linesPerRecord,
+                            int& channels) {
   for (int k = 1; k <= 7; ++k) slots[k].clear();
   run.dataScan = {};
   char delimiter = run.dialect.delimiterChar();
@@ -162,7 +163,7 @@ int checkLineSyntax(RunContext& run, const std::string& wrapValue, const ParamTa
   }
 
   LineReader file;
-  if (!file.open(run.source())) return CHECK_FAULT;
+  if (!file.open(run.source())) return CheckStatus::Fault;
   const SectionEntry* walked = walkedDataSection(run);
   for (const SectionEntry& section : run.sections.entries) {
     if (section.role == ROLE_DATA) {
@@ -196,8 +197,8 @@ int checkLineSyntax(RunContext& run, const std::string& wrapValue, const ParamTa
   slots[7] = wrapMessage(structure, wrapValue);
 
   for (int k = 1; k <= 7; ++k)
-    if (!slots[k].empty()) return CHECK_FAILED;
-  return CHECK_PASSED;
+    if (!slots[k].empty()) return CheckStatus::Failed;
+  return CheckStatus::Passed;
 }
 
 }  // namespace zorvik

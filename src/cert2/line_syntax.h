@@ -14,12 +14,13 @@ namespace zorvik {
 
 struct RunContext;
 
-// Fills slots 1..7 (emptied first) and returns CHECK_PASSED or CHECK_FAILED. Reads the run's
-// section index and data delimiter, and keeps its data scan for groups 6 and 7; `curveTable` gives
-// the channel count the wrap analysis samples against. `linesPerRecord` and `channels` receive the
-// wrap analysis' lines per record and channels per record (group 7 needs both); they are 1 and 0
-// when the data could not be analysed.
-int checkLineSyntax(RunContext& run, const std::string& wrapValue, const ParamTable& curveTable,
-                    Slots& slots, int& linesPerRecord, int& channels);
+// Fills slots 1..7 (emptied first) and returns CheckStatus::Passed or CheckStatus::Failed. Reads
+// the run's section index and data delimiter, and keeps its data scan for groups 6 and 7;
+// `curveTable` gives the channel count the wrap analysis samples against. `linesPerRecord` and
+// `channels` receive the wrap analysis' lines per record and channels per record (group 7 needs
+// both); they are 1 and 0 when the data could not be analysed.
+CheckStatus checkLineSyntax(RunContext& run, const std::string& wrapValue,
+                            const ParamTable& curveTable, Slots& slots, int& linesPerRecord,
+                            int& channels);
 
 }  // namespace zorvik

@@ -25,7 +25,7 @@ std::string absentFrom(const std::string& spacedList,
 
 }  // namespace
 
-int checkWellMnemonics(const ParamTable& wellTable, CheckTable& table, Slots& slots) {
+CheckStatus checkWellMnemonics(const ParamTable& wellTable, CheckTable& table, Slots& slots) {
   slots.fill("");
   // A leading blank lets the first mnemonic be found like the others.
   const std::string spacedList = " " + wellTable.validMnemonics();
@@ -44,7 +44,7 @@ int checkWellMnemonics(const ParamTable& wellTable, CheckTable& table, Slots& sl
     slots[2] =
         "Country Specific mnemonics: CDN set missing,  " + canada + " ; USA set missing, " + usa;
   }
-  return slots[1].empty() && slots[2].empty() ? CHECK_PASSED : CHECK_FAILED;
+  return slots[1].empty() && slots[2].empty() ? CheckStatus::Passed : CheckStatus::Failed;
 }
 
 }  // namespace zorvik

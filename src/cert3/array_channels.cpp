@@ -150,7 +150,7 @@ bool checkSection(const std::vector<Element>& lines, Slots& slots) {
 
 }  // namespace
 
-int checkArrayChannels(RunContext& run, Slots& slots) {
+CheckStatus checkArrayChannels(RunContext& run, Slots& slots) {
   slots[1].clear();
   // Items 2 to 5 stay undecided (as the driver preset them) only when every section that has
   // arrays could not be tested for them.
@@ -166,16 +166,16 @@ int checkArrayChannels(RunContext& run, Slots& slots) {
       }
     }
   } catch (const std::exception&) {
-    return CHECK_FAULT;
+    return CheckStatus::Fault;
   }
   if (!skipped) {
     for (int k = 2; k <= 5; ++k)
       if (slots[k] == " ") slots[k].clear();
   }
   for (int k = 1; k <= 5; ++k) {
-    if (!slots[k].empty()) return CHECK_FAILED;
+    if (!slots[k].empty()) return CheckStatus::Failed;
   }
-  return CHECK_PASSED;
+  return CheckStatus::Passed;
 }
 
 }  // namespace zorvik

@@ -41,7 +41,7 @@ MnemonicTable buildMnemonicTable(RunContext& run) {
   return table;
 }
 
-int checkAssociations(RunContext& run, Slots& slots) {
+CheckStatus checkAssociations(RunContext& run, Slots& slots) {
   slots[1].clear();
   slots[2].clear();
   try {
@@ -76,9 +76,9 @@ int checkAssociations(RunContext& run, Slots& slots) {
       slots[2] += kLineBreak;
     }
   } catch (const std::exception&) {
-    return CHECK_FAULT;
+    return CheckStatus::Fault;
   }
-  return slots[1].empty() && slots[2].empty() ? CHECK_PASSED : CHECK_FAILED;
+  return slots[1].empty() && slots[2].empty() ? CheckStatus::Passed : CheckStatus::Failed;
 }
 
 }  // namespace zorvik

@@ -12,10 +12,10 @@ namespace zorvik {
 
 struct RunContext;
 
-// Fills slots 1-2. Returns CHECK_FAILED when either holds text, CHECK_PASSED otherwise,
-// CHECK_FAULT when an internal fault ended it (slots then hold what was found so far). A file
-// that cannot be opened has no lines, so nothing is found in it.
-int checkAssociations(RunContext& run, Slots& slots);
+// Fills slots 1-2. Returns CheckStatus::Failed when either holds text, CheckStatus::Passed
+// otherwise, CheckStatus::Fault when an internal fault ended it (slots then hold what was found so
+// far). A file that cannot be opened has no lines, so nothing is found in it.
+CheckStatus checkAssociations(RunContext& run, Slots& slots);
 
 // One row for every parameter line of the file's header, parameter and definition sections, in
 // file order (the run state's section index must describe the file). An unreadable file gives an

@@ -89,12 +89,13 @@ void pollEscape(const RunContext& run) {
 }
 
 // Progress, display marks, record, stop test, then the cancel question; in this order.
-Next afterCheck(RunContext& run, int group, int code, const Slots& slots) {
+Next afterCheck(RunContext& run, int group, CheckStatus code, const Slots& slots) {
   CheckTable& table = run.table3;
   showProgress(run, group);
   for (int r = 1; r <= table.lastRow(); ++r) table.at(r, COL_MARK, group) = " ";
-  if (code == CHECK_FAILED || code == CHECK_FAULT) storeGroupResults(table, group, slots);
-  if (code == CHECK_FAULT) throw FaultError(Fault{});
+  if (code == CheckStatus::Failed || code == CheckStatus::Fault)
+    storeGroupResults(table, group, slots);
+  if (code == CheckStatus::Fault) throw FaultError(Fault{});
   // Group 0 (the title line pass) never stops the run, whatever group 1 holds.
   if (group > 0 && anyFailure(table)) return Next::Stop;
   pollEscape(run);
@@ -128,7 +129,7 @@ void runGroups(RunContext& run) {
   Slots slots;
 
   presetSlots(slots, {});
-  int code = checkTitleLines3(run.source(), slots[7]);
+  CheckStatus code = checkTitleLines3(run.source(), slots[7]);
   if (afterCheck(run, 0, code, slots) == Next::Stop) return;
 
   storeDataDelimiter(run);
@@ -160,7 +161,7 @@ void runGroups(RunContext& run) {
   run.nullStopRepaired = false;
   code = run.sections.standardFound
              ? checkIndexRangeRepairing(run, range, wrapValue, tables.well, tables.curve, slots)
-             : CHECK_PASSED;
+             : CheckStatus::Passed;
   if (afterCheck(run, 6, code, slots) == Next::Stop) return;
 
   presetSlots(slots, {1, 2, 3});

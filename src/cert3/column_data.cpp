@@ -150,17 +150,17 @@ std::string definitionSectionFor(const SectionIndex& sections, const SectionEntr
   return {};
 }
 
-int checkColumnData(RunContext& run, Slots& slots) {
+CheckStatus checkColumnData(RunContext& run, Slots& slots) {
   for (int k = 1; k <= 3; ++k) slots[k].clear();
   try {
     ColumnDataCheck(run, slots).run();
   } catch (const std::exception&) {
-    return CHECK_FAULT;
+    return CheckStatus::Fault;
   }
   for (int k = 1; k <= 3; ++k) {
-    if (!slots[k].empty()) return CHECK_FAILED;
+    if (!slots[k].empty()) return CheckStatus::Failed;
   }
-  return CHECK_PASSED;
+  return CheckStatus::Passed;
 }
 
 }  // namespace zorvik

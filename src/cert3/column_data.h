@@ -15,10 +15,10 @@ namespace zorvik {
 
 struct RunContext;
 
-// Fills slots 1-3. Returns CHECK_FAILED when any of them holds text, CHECK_PASSED otherwise,
-// CHECK_FAULT when an internal fault ended it (slots then hold what was found so far). A file
-// that cannot be opened has no data lines.
-int checkColumnData(RunContext& run, Slots& slots);
+// Fills slots 1-3. Returns CheckStatus::Failed when any of them holds text, CheckStatus::Passed
+// otherwise, CheckStatus::Fault when an internal fault ended it (slots then hold what was found so
+// far). A file that cannot be opened has no data lines.
+CheckStatus checkColumnData(RunContext& run, Slots& slots);
 
 // Name of the definition section whose channels the data section's items follow: the section
 // its title names after "|", else the definition section of its set ("Log" of "Log_Data"), else

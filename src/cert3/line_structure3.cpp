@@ -142,17 +142,17 @@ class LineStructureCheck {
 
 }  // namespace
 
-int checkLineStructure3(RunContext& run, Slots& slots) {
+CheckStatus checkLineStructure3(RunContext& run, Slots& slots) {
   for (int k : kItems) slots[k].clear();
   try {
     LineStructureCheck(run, slots).run();
   } catch (const std::exception&) {
-    return CHECK_FAULT;
+    return CheckStatus::Fault;
   }
   for (int k : kItems) {
-    if (!slots[k].empty()) return CHECK_FAILED;
+    if (!slots[k].empty()) return CheckStatus::Failed;
   }
-  return CHECK_PASSED;
+  return CheckStatus::Passed;
 }
 
 }  // namespace zorvik

@@ -15,9 +15,10 @@ namespace zorvik {
 
 struct RunContext;
 
-// Fills slots 1-3 and 5-11. Returns CHECK_FAILED when any of them holds text, CHECK_PASSED
-// otherwise, CHECK_FAULT when an internal fault ended it (slots then hold what was found so far).
-// A file that cannot be opened has no lines, so nothing is found in it.
-int checkLineStructure3(RunContext& run, Slots& slots);
+// Fills slots 1-3 and 5-11. Returns CheckStatus::Failed when any of them holds text,
+// CheckStatus::Passed otherwise, CheckStatus::Fault when an internal fault ended it (slots then
+// hold what was found so far). A file that cannot be opened has no lines, so nothing is found in
+// it.
+CheckStatus checkLineStructure3(RunContext& run, Slots& slots);
 
 }  // namespace zorvik

@@ -98,7 +98,7 @@ bool isAsciiLetter(char c) {
   return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
-int checkWellSection3(RunContext& run, const ParamTable& wellTable, Slots& slots) {
+CheckStatus checkWellSection3(RunContext& run, const ParamTable& wellTable, Slots& slots) {
   try {
     slots[1].clear();
     appendMissing(wellTable, REQUIRED, slots[1]);
@@ -114,10 +114,10 @@ int checkWellSection3(RunContext& run, const ParamTable& wellTable, Slots& slots
     locationChecks(wellTable, slots[6]);
 
     for (int k = 1; k <= 6; ++k)
-      if (!slots[k].empty()) return CHECK_FAILED;
-    return CHECK_PASSED;
+      if (!slots[k].empty()) return CheckStatus::Failed;
+    return CheckStatus::Passed;
   } catch (const std::exception&) {
-    return CHECK_FAULT;
+    return CheckStatus::Fault;
   }
 }
 

@@ -17,11 +17,14 @@ namespace zorvik {
 // Result texts of one group: index k is the text of row k (1..15); index 0 is unused.
 using Slots = std::array<std::string, 16>;
 
-// Codes every check procedure returns.
-inline constexpr int CHECK_PASSED = -1;  // all its rows passed
-inline constexpr int CHECK_FAILED = 1;   // at least one row holds findings
-inline constexpr int CHECK_FAULT = 0;    // an internal fault ended it
-inline constexpr int CHECK_NOTHING = 2;  // nothing to record
+// How a check procedure ended.
+enum class CheckStatus {
+  Passed,    // all its rows passed
+  Failed,    // at least one row holds findings
+  Fault,     // an internal fault ended it
+  Nothing,   // nothing to record
+  NullStop,  // the index check found STOP at the NULL value and leaves the repair to its caller
+};
 
 // Run status returned by the file-level checks, the version drivers and the log writer.
 inline constexpr int RUN_COMPLETED = -1;

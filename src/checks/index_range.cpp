@@ -71,10 +71,10 @@ WellValue wellValue(const ParamTable& wellTable, std::string_view mnemonic) {
   return v;
 }
 
-int evaluate(const Slots& slots) {
+CheckStatus evaluate(const Slots& slots) {
   for (int k = 1; k <= 7; ++k)
-    if (!slots[k].empty()) return CHECK_FAILED;
-  return CHECK_PASSED;
+    if (!slots[k].empty()) return CheckStatus::Failed;
+  return CheckStatus::Passed;
 }
 
 }  // namespace
@@ -151,9 +151,9 @@ int analyseIncrements(RunContext& run, int linesPerRecord, IncrementResult& resu
   return walk.finish(result);
 }
 
-int checkIndexRange(RunContext& run, const WellRange& well, const std::string& wrapValue,
-                    const ParamTable& wellTable, const ParamTable& curveTable, Slots& slots,
-                    std::string* nullStopLastIndex) {
+CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::string& wrapValue,
+                            const ParamTable& wellTable, const ParamTable& curveTable, Slots& slots,
+                            std::string* nullStopLastIndex) {
   const std::string& dataName = run.sections.dataName;
 
   // Presence: without all four values nothing else can be compared.
@@ -165,7 +165,7 @@ int checkIndexRange(RunContext& run, const WellRange& well, const std::string& w
       {&well.nullValue, "NULL value missing"}};
   for (const auto& [value, message] : required)
     if (trimView(*value).empty()) slots[1] += std::string(message) + "\r\n";
-  if (!slots[1].empty()) return CHECK_FAILED;
+  if (!slots[1].empty()) return CheckStatus::Failed;
 
   WellValue strt = wellValue(wellTable, "STRT");
   WellValue stop = wellValue(wellTable, "STOP");
@@ -204,9 +204,9 @@ int checkIndexRange(RunContext& run, const WellRange& well, const std::string& w
                  ", Last ~ASCII index = " + formatShortest(ends.last);
   } else {
     // A file written in real time leaves STOP at NULL: the driver takes it from the data.
-    if (nullStopLastIndex == nullptr) return CHECK_FAULT;
+    if (nullStopLastIndex == nullptr) return CheckStatus::Fault;
     *nullStopLastIndex = formatFixed(ends.last);
-    return CHECK_NULL_STOP;
+    return CheckStatus::NullStop;
   }
 
   slots[4].clear();
@@ -253,7 +253,7 @@ int checkIndexRange(RunContext& run, const WellRange& well, const std::string& w
     case STEP_UNREADABLE:
       return evaluate(slots);
     case STEP_UNANALYSABLE:
-      return CHECK_NOTHING;  // deliberately records nothing for this check
+      return CheckStatus::Nothing;  // deliberately records nothing for this check
     case STEP_NO_INCREMENT:
       // A single record has no increment to compare STEP with; its STRT and STOP still count.
     default:

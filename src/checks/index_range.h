@@ -15,10 +15,6 @@ namespace zorvik {
 
 struct RunContext;
 
-// STOP holds the NULL value (a file written in real time): the check stopped there and gave back
-// the last index, for its driver to repair the file and check it again.
-inline constexpr int CHECK_NULL_STOP = 3;
-
 // The ~Well values the driver read (a single space when a mnemonic is absent).
 struct WellRange {
   std::string strt;
@@ -27,13 +23,14 @@ struct WellRange {
   std::string nullValue;
 };
 
-// Fills slots 1..7 of the run's file and returns CHECK_PASSED, CHECK_FAILED or CHECK_NOTHING (the
-// data could not be analysed: record nothing). When STRT, STOP, STEP or NULL is missing only slot
-// 1 is written. A STOP equal to NULL gives CHECK_NULL_STOP with the last index, formatted as STOP
-// is to be written, in `*nullStopLastIndex` (CHECK_FAULT when that is null).
-int checkIndexRange(RunContext& run, const WellRange& well, const std::string& wrapValue,
-                    const ParamTable& wellTable, const ParamTable& curveTable, Slots& slots,
-                    std::string* nullStopLastIndex);
+// Fills slots 1..7 of the run's file and returns CheckStatus::Passed, CheckStatus::Failed or
+// CheckStatus::Nothing (the data could not be analysed: record nothing). When STRT, STOP, STEP or
+// NULL is missing only slot 1 is written. A STOP equal to NULL (a file written in real time) gives
+// CheckStatus::NullStop with the last index, formatted as STOP is to be written, in
+// `*nullStopLastIndex` (CheckStatus::Fault when that is null).
+CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::string& wrapValue,
+                            const ParamTable& wellTable, const ParamTable& curveTable, Slots& slots,
+                            std::string* nullStopLastIndex);
 
 // --- Pieces of the check, published for their own tests. ---
 

@@ -44,14 +44,15 @@ bool repairNullStop(RunContext& run, const std::string& nullStop, const std::str
   return true;
 }
 
-int checkIndexRangeRepairing(RunContext& run, const WellRange& well, const std::string& wrapValue,
-                             const ParamTable& wellTable, const ParamTable& curveTable,
-                             Slots& slots) {
+CheckStatus checkIndexRangeRepairing(RunContext& run, const WellRange& well,
+                                     const std::string& wrapValue, const ParamTable& wellTable,
+                                     const ParamTable& curveTable, Slots& slots) {
   run.nullStopRepaired = false;
   std::string lastIndex;
-  int result = checkIndexRange(run, well, wrapValue, wellTable, curveTable, slots, &lastIndex);
-  if (result != CHECK_NULL_STOP) return result;
-  if (!repairNullStop(run, trim(well.stop), lastIndex)) return CHECK_FAULT;
+  const CheckStatus result =
+      checkIndexRange(run, well, wrapValue, wellTable, curveTable, slots, &lastIndex);
+  if (result != CheckStatus::NullStop) return result;
+  if (!repairNullStop(run, trim(well.stop), lastIndex)) return CheckStatus::Fault;
 
   // The rest of the run keeps the tables as read; only this check sees the repaired STOP.
   WellRange repairedRange = well;

@@ -21,9 +21,9 @@ struct RunContext;
 bool repairNullStop(RunContext& run, const std::string& nullStop, const std::string& value);
 
 // Group 6 with the repair: runs checkIndexRange and, when it finds a null STOP, repairs it and
-// checks the repaired file. CHECK_FAULT when the repair failed.
-int checkIndexRangeRepairing(RunContext& run, const WellRange& well, const std::string& wrapValue,
-                             const ParamTable& wellTable, const ParamTable& curveTable,
-                             Slots& slots);
+// checks the repaired file. CheckStatus::Fault when the repair failed.
+CheckStatus checkIndexRangeRepairing(RunContext& run, const WellRange& well,
+                                     const std::string& wrapValue, const ParamTable& wellTable,
+                                     const ParamTable& curveTable, Slots& slots);
 
 }  // namespace zorvik

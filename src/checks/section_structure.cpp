@@ -379,13 +379,13 @@ void sequentialIndexes(const std::vector<Title>& titles, std::string& slot) {
 
 }  // namespace
 
-int checkSectionStructure(RunContext& run, Slots& slots) {
+CheckStatus checkSectionStructure(RunContext& run, Slots& slots) {
   try {
     const bool v3 = run.isV3();
     for (int k = 1; k <= 14; ++k) slots[k] = (v3 || k <= 3) ? " " : "";
 
     if (run.sections.entries.empty() && !buildSectionIndex(run.source(), run.dialect, run.sections))
-      return CHECK_FAULT;
+      return CheckStatus::Fault;
     const std::vector<Title> titles = titlesOf(run.sections.entries);
 
     if (!v3) {
@@ -410,10 +410,10 @@ int checkSectionStructure(RunContext& run, Slots& slots) {
       sequentialIndexes(titles, slots[14]);
     }
     for (int k = 1; k <= 14; ++k)
-      if (!slots[k].empty()) return CHECK_FAILED;
-    return CHECK_PASSED;
+      if (!slots[k].empty()) return CheckStatus::Failed;
+    return CheckStatus::Passed;
   } catch (const std::exception&) {
-    return CHECK_FAULT;
+    return CheckStatus::Fault;
   }
 }
 

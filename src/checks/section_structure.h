@@ -3,7 +3,7 @@
 // the _Parameter/_Definition/_Data sets are associated and numbered through their [n] indexes.
 //
 // Works on the run's section index (building it when empty) and never reads data lines.
-// Can fail: returns CHECK_FAULT (0) when the index cannot be built or an internal fault occurs;
+// Can fail: returns CheckStatus::Fault when the index cannot be built or an internal fault occurs;
 // the slots then hold whatever had been decided so far. Never throws.
 #pragma once
 
@@ -14,10 +14,10 @@
 namespace zorvik {
 
 // Decides items 1-14 of the group for a 3.0 file, items 1-3 for other versions (the others are
-// left empty). Returns CHECK_PASSED (-1) when items 1-14 are all empty, CHECK_FAILED (1) when any
-// holds findings, CHECK_FAULT (0) on an internal fault.
+// left empty). Returns CheckStatus::Passed when items 1-14 are all empty, CheckStatus::Failed when
+// any holds findings, CheckStatus::Fault on an internal fault.
 struct RunContext;
 
-int checkSectionStructure(RunContext& run, Slots& slots);
+CheckStatus checkSectionStructure(RunContext& run, Slots& slots);
 
 }  // namespace zorvik

@@ -62,10 +62,11 @@ void judgeLine2(std::string_view line, std::string& slot) {
 // of the line that holds the first byte of the block in hand.
 constexpr std::int64_t BLOCK_BYTES = 256 * 1024;
 
-int runPass(const LasFile& file, std::string& slot, void (*judge)(std::string_view, std::string&)) {
+CheckStatus runPass(const LasFile& file, std::string& slot,
+                    void (*judge)(std::string_view, std::string&)) {
   try {
     LineReader reader;
-    if (!reader.open(file)) return CHECK_FAULT;
+    if (!reader.open(file)) return CheckStatus::Fault;
     std::string block;
     std::string_view line;
     std::int64_t blockStart = 1;
@@ -111,19 +112,19 @@ int runPass(const LasFile& file, std::string& slot, void (*judge)(std::string_vi
       }
       blockStart = next;
     }
-    return slot.empty() ? CHECK_PASSED : CHECK_FAILED;
+    return slot.empty() ? CheckStatus::Passed : CheckStatus::Failed;
   } catch (const std::exception&) {
-    return CHECK_FAULT;
+    return CheckStatus::Fault;
   }
 }
 
 }  // namespace
 
-int checkTitleLines3(const LasFile& file, std::string& slot) {
+CheckStatus checkTitleLines3(const LasFile& file, std::string& slot) {
   return runPass(file, slot, judgeLine3);
 }
 
-int checkTitleLines2(const LasFile& file, std::string& slot) {
+CheckStatus checkTitleLines2(const LasFile& file, std::string& slot) {
   return runPass(file, slot, judgeLine2);
 }
 

@@ -2,18 +2,19 @@
 // one with the 3.0 rules, one with the 1.2/2.0 rules. Each reads the file itself, from the first
 // line to the last, independently of the section model.
 //
-// Both append findings to `slot` and return CHECK_PASSED (-1) when the slot is empty at the end,
-// CHECK_FAILED (1) when it is not, CHECK_FAULT (0) when the file cannot be opened (slot left as it
-// was). Never throw.
+// Both append findings to `slot` and return CheckStatus::Passed when the slot is empty at the end,
+// CheckStatus::Failed when it is not, CheckStatus::Fault when the file cannot be opened (slot left
+// as it was). Never throw.
 #pragma once
 
 #include <string>
 
+#include "checks/check_table.h"
 #include "las/las_file.h"
 
 namespace zorvik {
 
-int checkTitleLines3(const LasFile& file, std::string& slot);
-int checkTitleLines2(const LasFile& file, std::string& slot);
+CheckStatus checkTitleLines3(const LasFile& file, std::string& slot);
+CheckStatus checkTitleLines2(const LasFile& file, std::string& slot);
 
 }  // namespace zorvik

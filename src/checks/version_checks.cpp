@@ -75,8 +75,8 @@ bool allEmpty(const Slots& slots) {
 
 }  // namespace
 
-int checkVersionSection(RunContext& run, const ParamTable& versionTable, std::string& wrapValue,
-                        Slots& slots) {
+CheckStatus checkVersionSection(RunContext& run, const ParamTable& versionTable,
+                                std::string& wrapValue, Slots& slots) {
   const bool v3 = run.isV3();
   slots.fill("");
   for (int k = 1; k <= (v3 ? 9 : 6); ++k) slots[k] = kBlank;
@@ -84,7 +84,7 @@ int checkVersionSection(RunContext& run, const ParamTable& versionTable, std::st
 
   if (!versionSectionPresent(run.sections, v3)) {
     slots[1] = "Version section not found";
-    return CHECK_FAILED;
+    return CheckStatus::Failed;
   }
 
   // Presence of the mnemonics; without them the values cannot be judged.
@@ -100,7 +100,7 @@ int checkVersionSection(RunContext& run, const ParamTable& versionTable, std::st
     if (dlm == kBlank) slots[4] = "DLM mnemonic missing. ";
   }
   if (!slots[1].empty() || !slots[2].empty() || !slots[3].empty() || !slots[4].empty()) {
-    return CHECK_FAILED;
+    return CheckStatus::Failed;
   }
 
   slots[5] = versValueFinding(vers, run.dialect.version);
@@ -154,7 +154,7 @@ int checkVersionSection(RunContext& run, const ParamTable& versionTable, std::st
     slots[8].clear();
   }
 
-  return allEmpty(slots) ? CHECK_PASSED : CHECK_FAILED;
+  return allEmpty(slots) ? CheckStatus::Passed : CheckStatus::Failed;
 }
 
 std::string delimiterForWord(std::string_view dlmValue) {

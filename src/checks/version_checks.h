@@ -17,11 +17,11 @@ namespace zorvik {
 // text = the finding. Finds the section through the run's section index and confirms or
 // corrects the run's version from an acceptable VERS value. `wrapValue` receives the WRAP
 // value as written (a single space when WRAP is missing or the section was not found). Returns
-// CHECK_PASSED when slots 1..9 are all empty, else CHECK_FAILED.
+// CheckStatus::Passed when slots 1..9 are all empty, else CheckStatus::Failed.
 struct RunContext;
 
-int checkVersionSection(RunContext& run, const ParamTable& versionTable, std::string& wrapValue,
-                        Slots& slots);
+CheckStatus checkVersionSection(RunContext& run, const ParamTable& versionTable,
+                                std::string& wrapValue, Slots& slots);
 
 // The delimiter character of a DLM word: "SPACE" -> " ", "COMMA" -> ",", "TAB" -> "\t"
 // (ignoring case and surrounding blanks); any other word gives a single space.

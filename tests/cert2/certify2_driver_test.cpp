@@ -2,6 +2,7 @@
 // (the plain stop after a failing group is pinned by the whole-report goldens).
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <stdexcept>
 #include <vector>
 
@@ -13,26 +14,27 @@
 namespace zorvik {
 namespace {
 
-constexpr int kThrows = 99;  // scripted result: the check throws out_of_range
+constexpr auto kFailed = CheckStatus::Failed;
+constexpr std::nullopt_t kThrows = std::nullopt;  // scripted result: the check throws out_of_range
 
 struct Play {  // what one scripted group returns, with text in one row
   int group;
-  int result;
+  std::optional<CheckStatus> result;
   int row = 1;
 };
 std::vector<Play> plays;
 std::vector<int> called;
 
-int play(int group, Slots& slots) {
+CheckStatus play(int group, Slots& slots) {
   called.push_back(group);
   slots = Slots{};  // every check decides all of its rows
   for (const Play& p : plays) {
     if (p.group != group) continue;
-    if (p.result == kThrows) throw std::out_of_range("scripted");
+    if (!p.result) throw std::out_of_range("scripted");
     slots[p.row] = "x";
-    return p.result;
+    return *p.result;
   }
-  return CHECK_PASSED;
+  return CheckStatus::Passed;
 }
 
 Certify2Checks scriptedChecks() {
@@ -91,17 +93,20 @@ TEST(Certify2Driver, RunsRecordsAndStopsByTheRules) {
   };
   const Row rows[] = {
       {"the country note alone keeps 6 and 7 running",
-       {{5, 1, 2}, {6, 1, 2}, {7, 1, 3}},
+       {{5, kFailed, 2}, {6, kFailed, 2}, {7, kFailed, 3}},
        "2 3 4 5 6 7 | 5.2(note) 6.2 7.3 | completed"},
       {.name = "no ~Curve or ~ASCII: group 6 passes unrun",
        .outcome = "2 3 4 5 7 | | completed",
        .dataSections = false},
-      {"group 6 with nothing to record", {{6, CHECK_NOTHING}}, "2 3 4 5 6 7 | | completed"},
-      {"Escape answered Yes cancels", {{3, 1}}, "2 3 | | stopped", 3, true},
-      {"Escape answered No drops that group's findings", {{4, 1, 6}}, "2 3 4 5 7 | | completed", 4},
-      {"batch mode ignores Escape", {{3, 1, 2}}, "2 3 | 3.2 | completed", 3, true, true},
+      {"group 6 with nothing to record", {{6, CheckStatus::Nothing}}, "2 3 4 5 6 7 | | completed"},
+      {"Escape answered Yes cancels", {{3, kFailed}}, "2 3 | | stopped", 3, true},
+      {"Escape answered No drops that group's findings",
+       {{4, kFailed, 6}},
+       "2 3 4 5 7 | | completed",
+       4},
+      {"batch mode ignores Escape", {{3, kFailed, 2}}, "2 3 | 3.2 | completed", 3, true, true},
       {"a check's fault ends the run",
-       {{3, CHECK_FAULT}},
+       {{3, CheckStatus::Fault}},
        "2 3 | 3.1 | fault Error: Error in aaCertify2:"},
       {"a thrown fault is logged with its number",
        {{4, kThrows}},

@@ -13,7 +13,7 @@ namespace {
 
 using testing::LasParts;
 
-int lineSyntax(RunContext& run, const LasParts& parts, Slots& slots) {
+CheckStatus lineSyntax(RunContext& run, const LasParts& parts, Slots& slots) {
   run = testing::prepareLas("data_checks.las", testing::lasBytes(parts));
   int linesPerRecord = 0;
   int channels = 0;
@@ -21,7 +21,7 @@ int lineSyntax(RunContext& run, const LasParts& parts, Slots& slots) {
                          linesPerRecord, channels);
 }
 
-int lineSyntax(const LasParts& parts, Slots& slots) {
+CheckStatus lineSyntax(const LasParts& parts, Slots& slots) {
   RunContext run;
   return lineSyntax(run, parts, slots);
 }
@@ -41,7 +41,8 @@ TEST(CheckLineSyntax, FindingsPerSlot) {
   for (const auto& [parts, expected] : rows) {
     SCOPED_TRACE(parts.wrap + " " + parts.curve[0]);
     Slots slots;
-    EXPECT_EQ(lineSyntax(parts, slots), expected.empty() ? CHECK_PASSED : CHECK_FAILED);
+    EXPECT_EQ(lineSyntax(parts, slots),
+              expected.empty() ? CheckStatus::Passed : CheckStatus::Failed);
     EXPECT_EQ(testing::filledSlots(slots, 7), expected);
   }
 }
@@ -61,30 +62,30 @@ TEST(CheckAsciiSection, WrappedRecords) {
   struct Row {
     const char* name;
     std::vector<std::string> data;  // records of three channels over two lines
-    int code;
+    CheckStatus code;
     std::string slots = "";
     bool wrapChecks = true;
   };
   const Row rows[] = {
       {"78 characters pass",
        {"1000.0", std::string(76, '1') + " 2", "1000.5", "3 4"},
-       CHECK_PASSED},
+       CheckStatus::Passed},
       {"a line of 79 characters",
        {"1000.0", line79, "1000.5", "3 4"},
-       CHECK_FAILED,
+       CheckStatus::Failed,
        "4: Line too long for WRAP YES. Was 79 long. 80 is max.\r\n" + line79 + "\n"},
       // Without the wrap checks no line length is judged, wrapped or not.
       {"a line of 79 characters without the wrap checks",
        {"1000.0", line79, "1000.5", "3 4"},
-       CHECK_PASSED,
+       CheckStatus::Passed,
        "",
        false},
       {"a record short of a value shows the joined record",
        {"1000.0", "1 2", " 1000.5 ", "3 "},
-       CHECK_FAILED,
+       CheckStatus::Failed,
        "2: Space delimited column count differs from ~Curve channel count. Expected: 3. Found: "
        "2\r\n1000.5  3\n"},
-      {"no data lines is a fault", {}, CHECK_FAULT},
+      {"no data lines is a fault", {}, CheckStatus::Fault},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
@@ -134,9 +135,10 @@ std::string dataGroups(const std::string& path, const std::string& wrap, bool ke
   checkLineSyntax(run, wrap, curve, slots4, linesPerRecord, channels);
   EXPECT_TRUE(run.dataScan.valid);
   if (!keep) run.dataScan = {};
+  const auto code = [](CheckStatus status) { return toText(static_cast<int>(status)); };
   std::string text =
-      toText(checkIndexRange(run, testing::wellRangeOf(well), wrap, well, curve, slots6, nullptr)) +
-      toText(checkAsciiSection(run, wrap, linesPerRecord, channels, curve, slots7));
+      code(checkIndexRange(run, testing::wellRangeOf(well), wrap, well, curve, slots6, nullptr)) +
+      code(checkAsciiSection(run, wrap, linesPerRecord, channels, curve, slots7));
   for (int k = 1; k <= 7; ++k) text += "|" + slots6[k];
   for (int k = 1; k <= 4; ++k) text += "|" + slots7[k];
   return text;

@@ -40,10 +40,11 @@ TEST(VersionChecks, FindingsPerRow) {
     Slots slots;
     slots.fill("stale");
     std::string outcome;
-    const int result = checkVersionSection(run, table, outcome, slots);
+    const CheckStatus result = checkVersionSection(run, table, outcome, slots);
     outcome += "\n" + testing::filledSlots(slots, 15);
     EXPECT_EQ(outcome, expected);
-    EXPECT_EQ(result, expected.find(':') == std::string::npos ? CHECK_PASSED : CHECK_FAILED);
+    EXPECT_EQ(result,
+              expected.find(':') == std::string::npos ? CheckStatus::Passed : CheckStatus::Failed);
     EXPECT_EQ(run.dialect.version, 2.0f);
   }
 }
@@ -75,12 +76,12 @@ TEST(WellChecks, RequiredAndCountryMnemonics) {
     checks.at(2, COL_TITLE, 5) = title;
     Slots slots;
     slots.fill(" ");
-    int result = checkWellMnemonics(table, checks, slots);
+    CheckStatus result = checkWellMnemonics(table, checks, slots);
     const std::string& newTitle = checks.at(2, COL_TITLE, 5);
     ASSERT_EQ(newTitle.rfind(title, 0), 0u);
     EXPECT_EQ(slots[1] + "|" + slots[2] + "|" + newTitle.substr(title.size()), expected);
     for (int row = 3; row <= 15; ++row) EXPECT_EQ(slots[row], "");
-    EXPECT_EQ(result, expected.starts_with("||") ? CHECK_PASSED : CHECK_FAILED);
+    EXPECT_EQ(result, expected.starts_with("||") ? CheckStatus::Passed : CheckStatus::Failed);
   }
 }
 

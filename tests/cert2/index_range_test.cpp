@@ -85,11 +85,12 @@ TEST(IndexChannel, EndsAndIncrements) {
   EXPECT_EQ(analyseIncrements(missing, 1, result), STEP_UNREADABLE);
 }
 
-int checkRange(RunContext& run, const ParamTable& well, const ParamTable& curve, Slots& slots) {
+CheckStatus checkRange(RunContext& run, const ParamTable& well, const ParamTable& curve,
+                       Slots& slots) {
   return checkIndexRangeRepairing(run, testing::wellRangeOf(well), "NO", well, curve, slots);
 }
 
-int checkRange(RunContext& run, Slots& slots) {
+CheckStatus checkRange(RunContext& run, Slots& slots) {
   return checkRange(run, testing::sectionTable(run, "Well"), testing::sectionTable(run, "Curve"),
                     slots);
 }
@@ -130,13 +131,14 @@ TEST(CheckIndexRange, FindingsPerSlot) {
     RunContext run = prepareLas("index_range.las", lasBytes(row.parts));
     Slots slots;
     slots.fill(" ");
-    EXPECT_EQ(checkRange(run, slots), row.slots.empty() ? CHECK_PASSED : CHECK_FAILED);
+    EXPECT_EQ(checkRange(run, slots),
+              row.slots.empty() ? CheckStatus::Passed : CheckStatus::Failed);
     EXPECT_EQ(testing::filledSlots(slots, 7), row.slots);
     EXPECT_FALSE(run.nullStopRepaired);
   }
   Slots slots;
   RunContext run = prepareLas("index_range.las", lasBytes({.data = {"10:00:00 1", "10:00:10 1"}}));
-  EXPECT_EQ(checkRange(run, slots), CHECK_NOTHING);  // an index that is no number
+  EXPECT_EQ(checkRange(run, slots), CheckStatus::Nothing);  // an index that is no number
 }
 
 TEST(CheckIndexRange, RepairsANullStopInTheFileOrSaysWhyNot) {
@@ -148,22 +150,22 @@ TEST(CheckIndexRange, RepairsANullStopInTheFileOrSaysWhyNot) {
   struct Row {
     const char* name;
     std::function<void(const std::string&)> prepare;
-    int result;
+    CheckStatus result;
     bool changed;         // the file holds the repaired STOP afterwards
     std::string message;  // the command log entry, "<las>" for the file's name
   };
   const Row rows[] = {
-      {"repaired", nullptr, CHECK_PASSED, true,
+      {"repaired", nullptr, CheckStatus::Passed, true,
        "LAS file <las> rewritten: STOP value -999.25 replaced by 1001.00000.\n"},
-      {"read-only", [](const std::string& p) { ::chmod(p.c_str(), 0444); }, CHECK_FAULT, false,
-       "Error: LAS file <las> could not be rewritten: it is read-only.\n"},
+      {"read-only", [](const std::string& p) { ::chmod(p.c_str(), 0444); }, CheckStatus::Fault,
+       false, "Error: LAS file <las> could not be rewritten: it is read-only.\n"},
       {"hard link", [](const std::string& p) { std::filesystem::create_hard_link(p, p + ".2"); },
-       CHECK_FAULT, false,
+       CheckStatus::Fault, false,
        "Error: LAS file <las> could not be rewritten: it has more than one hard link.\n"},
       // Another run repaired it after this one read the ~Well section: nothing left to do.
       {"repaired meanwhile",
-       [&](const std::string& p) { std::ofstream(p, std::ios::binary) << repaired; }, CHECK_PASSED,
-       true, ""},
+       [&](const std::string& p) { std::ofstream(p, std::ios::binary) << repaired; },
+       CheckStatus::Passed, true, ""},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);

@@ -18,7 +18,7 @@
 namespace zorvik {
 namespace {
 
-using Check = std::function<int(RunContext&, Slots&)>;
+using Check = std::function<CheckStatus(RunContext&, Slots&)>;
 
 // A 3.0 file: ~Version (comma), a two-channel ~Log_Definition and `data` lines.
 std::string lasText(const std::vector<std::string>& data) {
@@ -30,7 +30,7 @@ std::string lasText(const std::vector<std::string>& data) {
 }
 
 // Runs `check` as the driver does, every slot preset to " ".
-Slots runOn(const std::string& path, const Check& check, int& result) {
+Slots runOn(const std::string& path, const Check& check, CheckStatus& result) {
   RunContext run;
   run.lasFile = path;
   run.dialect.version = 3.0f;
@@ -51,13 +51,13 @@ std::size_t countOf(const std::string& text, const std::string& what) {
 // A file gone between groups: the section structure check faults, the others find nothing.
 TEST(LineDataChecks, MissingFile) {
   const std::string gone = "/nonexistent/zorvik/file.las";
-  int result = 0;
+  CheckStatus result = CheckStatus::Fault;
   runOn(gone, checkSectionStructure, result);
-  EXPECT_EQ(result, CHECK_FAULT);
+  EXPECT_EQ(result, CheckStatus::Fault);
   for (const Check& check : {Check(checkLineStructure3), Check(checkColumnData),
                              Check(checkAssociations), Check(checkArrayChannels)}) {
     EXPECT_EQ(runOn(gone, check, result)[1], "");
-    EXPECT_EQ(result, CHECK_PASSED);
+    EXPECT_EQ(result, CheckStatus::Passed);
   }
 }
 
@@ -67,9 +67,9 @@ TEST(LineDataChecks, DataLineFindingsAreBounded) {
   testing::ScratchDir dir;
   std::vector<std::string> data{"0.5,1"};
   for (int i = 1; i <= 1000; ++i) data.push_back(std::to_string(i) + ".5,x,9");
-  int result = 0;
+  CheckStatus result = CheckStatus::Fault;
   Slots slots = runOn(dir.write("bounded.las", lasText(data)), checkColumnData, result);
-  EXPECT_EQ(result, CHECK_FAILED);
+  EXPECT_EQ(result, CheckStatus::Failed);
   EXPECT_EQ(countOf(slots[3], "Data column item (x) in ~Log_Data @ "), 100u);
   EXPECT_NE(slots[3].find("Data column item (x) in ~Log_Data @ 1.5 wrong format {F}\r\n"),
             std::string::npos);

@@ -19,7 +19,7 @@ struct StructureRow {
 };
 
 // Certifies the structure of a 3.0 file made of the given title lines, each followed by a line.
-int runStructure(const std::vector<std::string>& titles, Slots& slots) {
+CheckStatus runStructure(const std::vector<std::string>& titles, Slots& slots) {
   std::string text;
   for (const std::string& t : titles) text += t + "\r\n x.  1 : y\r\n";
   testing::ScratchDir dir;
@@ -74,7 +74,8 @@ TEST(SectionStructure, ItemsFollowTheTitles) {
     SCOPED_TRACE(row.what);
     Slots slots;
     slots[15] = " ";
-    EXPECT_EQ(runStructure(row.titles, slots), row.failed.empty() ? CHECK_PASSED : CHECK_FAILED);
+    EXPECT_EQ(runStructure(row.titles, slots),
+              row.failed.empty() ? CheckStatus::Passed : CheckStatus::Failed);
     for (int k = 1; k <= 14; ++k) {
       const auto it = row.failed.find(k);
       EXPECT_EQ(slots[k], it == row.failed.end() ? "" : it->second) << "item " << k;
@@ -94,7 +95,7 @@ TEST(SectionStructure, ThousandsOfSectionsAreAllJudged) {
     duplicates += "Log_Data[" + n + "]\r\n";
   }
   Slots slots;
-  EXPECT_EQ(runStructure(titles, slots), CHECK_FAILED);
+  EXPECT_EQ(runStructure(titles, slots), CheckStatus::Failed);
   EXPECT_EQ(slots[4], duplicates);
   EXPECT_EQ(slots[8].size(), 2 * duplicates.size());
 }

@@ -50,10 +50,10 @@ TEST(TitleLines, EachPassJudgesTildeLinesByItsOwnRules) {
     const std::string path = dir.write("titles.las", row.file);
     std::string slot3, slot2;
     EXPECT_EQ(checkTitleLines3(LasFile(path), slot3),
-              row.expected3.empty() ? CHECK_PASSED : CHECK_FAILED);
+              row.expected3.empty() ? CheckStatus::Passed : CheckStatus::Failed);
     EXPECT_EQ(slot3, row.expected3);
     EXPECT_EQ(checkTitleLines2(LasFile(path), slot2),
-              row.expected2.empty() ? CHECK_PASSED : CHECK_FAILED);
+              row.expected2.empty() ? CheckStatus::Passed : CheckStatus::Failed);
     EXPECT_EQ(slot2, row.expected2);
   }
 }

@@ -52,7 +52,7 @@ TEST(WellChecks3, CountryCodes) {
     for (int k = 1; k <= 6; ++k) slots[k] = " ";
     // No such file: the CTRY line is quoted as rebuilt from its fields.
     EXPECT_EQ(checkWellSection3(missingFile(), wellTable(row.lines), slots),
-              row.failedItem == 0 ? CHECK_PASSED : CHECK_FAILED);
+              row.failedItem == 0 ? CheckStatus::Passed : CheckStatus::Failed);
     for (int k = 1; k <= 6; ++k)
       EXPECT_EQ(slots[k], k == row.failedItem ? row.finding : "") << "item " << k;
   }
@@ -73,7 +73,7 @@ TEST(WellChecks3, LocationSets) {
     Lines withCountry = lines;
     withCountry.emplace_back("CTRY", "");  // an empty code requires nothing
     EXPECT_EQ(checkWellSection3(missingFile(), wellTable(withCountry, false), slots),
-              finding.empty() ? CHECK_PASSED : CHECK_FAILED);
+              finding.empty() ? CheckStatus::Passed : CheckStatus::Failed);
     EXPECT_EQ(slots[6], finding);
   }
 }
