@@ -182,24 +182,24 @@ Certify2Checks standardCertify2Checks() {
                         checkWellMnemonics,  checkIndexRangeRepairing, checkAsciiSection};
 }
 
-int aaCertify2(RunContext& run) {
+RunStatus aaCertify2(RunContext& run) {
   return aaCertify2With(run, standardCertify2Checks());
 }
 
-int aaCertify2With(RunContext& run, const Certify2Checks& checks) {
+RunStatus aaCertify2With(RunContext& run, const Certify2Checks& checks) {
   setBusy(run, true);
   Fault fault;
   try {
     switch (runChecks(run, checks)) {
       case Next::Go:
         setBusy(run, false);
-        return RUN_COMPLETED;
+        return RunStatus::Completed;
       case Next::Stop:
         // The run driver restores the pointer after a stopped run.
-        return RUN_COMPLETED;
+        return RunStatus::Completed;
       case Next::Cancel:
         setBusy(run, false);
-        return RUN_STOPPED;
+        return RunStatus::Stopped;
       case Next::Fail:
         break;
     }
@@ -211,12 +211,12 @@ int aaCertify2With(RunContext& run, const Certify2Checks& checks) {
   // Error path: an Escape still pending turns the fault into a cancel.
   if (run.observer != nullptr && run.observer->cancelRequested()) {
     setBusy(run, false);
-    return RUN_STOPPED;
+    return RunStatus::Stopped;
   }
   run.log(fault.number == 0 ? std::string("Error: Error in aaCertify2:")
                             : handlerMessage("aaCertify2", fault));
   setBusy(run, false);
-  return RUN_FAULT;
+  return RunStatus::Fault;
 }
 
 }  // namespace zorvik

@@ -2,8 +2,8 @@
 // records each group's findings in the run's 1.2/2.0 table, shows its observer the progress, lets
 // the user cancel between checks and stops after the first group that recorded a finding.
 //
-// Never throws: faults inside the checks end the run with RUN_FAULT and a command log entry; the
-// table then keeps what was recorded before the fault.
+// Never throws: faults inside the checks end the run with RunStatus::Fault and a command log entry;
+// the table then keeps what was recorded before the fault.
 #pragma once
 
 #include <string>
@@ -16,9 +16,9 @@ namespace zorvik {
 
 struct RunContext;
 
-// Runs groups 2-7 on the run's LAS file: RUN_COMPLETED (all run, or stopped after a failing group),
-// RUN_STOPPED (the user cancelled) or RUN_FAULT (a fault ended the run).
-int aaCertify2(RunContext& run);
+// Runs groups 2-7 on the run's LAS file: RunStatus::Completed (all run, or stopped after a failing
+// group), RunStatus::Stopped (the user cancelled) or RunStatus::Fault (a fault ended the run).
+RunStatus aaCertify2(RunContext& run);
 
 // The check procedures the driver calls, one per group. Tests replace some of them to drive the
 // run through states that real files reach only rarely.
@@ -41,6 +41,6 @@ struct Certify2Checks {
 Certify2Checks standardCertify2Checks();
 
 // aaCertify2 with the given check procedures.
-int aaCertify2With(RunContext& run, const Certify2Checks& checks);
+RunStatus aaCertify2With(RunContext& run, const Certify2Checks& checks);
 
 }  // namespace zorvik

@@ -181,17 +181,17 @@ void runGroups(RunContext& run) {
 
 }  // namespace
 
-int aaCertify3(RunContext& run) {
-  int result = RUN_COMPLETED;
+RunStatus aaCertify3(RunContext& run) {
+  RunStatus result = RunStatus::Completed;
   setBusy(run, true);
   try {
     clearAllButGroup1(run.table3);
     runGroups(run);
   } catch (...) {
     if (run.observer != nullptr && run.observer->cancelRequested()) {
-      result = RUN_STOPPED;
+      result = RunStatus::Stopped;
     } else {
-      result = RUN_FAULT;
+      result = RunStatus::Fault;
       Fault fault;
       try {
         throw;

@@ -26,10 +26,8 @@ enum class CheckStatus {
   NullStop,  // the index check found STOP at the NULL value and leaves the repair to its caller
 };
 
-// Run status returned by the file-level checks, the version drivers and the log writer.
-inline constexpr int RUN_COMPLETED = -1;
-inline constexpr int RUN_FAULT = 0;
-inline constexpr int RUN_STOPPED = 1;
+// How the file-level checks, a version driver or the report writer ended.
+enum class RunStatus { Completed, Fault, Stopped };
 
 // Column numbers of a check table.
 inline constexpr int COL_RESULT = 0;

@@ -122,7 +122,7 @@ int terminationTest(const LasFile& file, std::string& termination, std::string& 
   return 0;
 }
 
-int fileLevelChecks(RunContext& run, Slots& results) {
+RunStatus fileLevelChecks(RunContext& run, Slots& results) {
   const std::string& fileName = run.lasFile;
   results = Slots{};
   std::string& exists = results[FILE_EXISTS];
@@ -138,14 +138,14 @@ int fileLevelChecks(RunContext& run, Slots& results) {
   } else {
     exists = "File does not exist or is not accessible";
   }
-  if (!exists.empty() || !size.empty() || !access.empty()) return RUN_STOPPED;
+  if (!exists.empty() || !size.empty() || !access.empty()) return RunStatus::Stopped;
 
   Fault fault;
   int outcome =
       terminationTest(run.source(), results[FILE_TERMINATION], results[FILE_ASCII], fault);
   if (outcome == 0) {
     access = accessFailure(fault);
-    return RUN_STOPPED;
+    return RunStatus::Stopped;
   }
 
   std::string& extension = results[FILE_EXTENSION];
@@ -156,8 +156,8 @@ int fileLevelChecks(RunContext& run, Slots& results) {
   }
 
   for (int row = FILE_EXISTS; row <= FILE_EXTENSION; ++row)
-    if (!results[row].empty()) return RUN_STOPPED;
-  return RUN_COMPLETED;
+    if (!results[row].empty()) return RunStatus::Stopped;
+  return RunStatus::Completed;
 }
 
 }  // namespace zorvik

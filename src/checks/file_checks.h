@@ -25,9 +25,10 @@ enum FileCheckRow : int {
   FILE_EXTENSION = 6,
 };
 
-// Fills slots 1..6 (see FileCheckRow; the others are emptied) and answers RUN_COMPLETED when all
-// six are empty, else RUN_STOPPED. Existence, size or access failing leaves rows 4..6 empty.
-int fileLevelChecks(RunContext& run, Slots& results);
+// Fills slots 1..6 (see FileCheckRow; the others are emptied) and answers RunStatus::Completed when
+// all six are empty, else RunStatus::Stopped. Existence, size or access failing leaves rows 4..6
+// empty.
+RunStatus fileLevelChecks(RunContext& run, Slots& results);
 
 // Judges the line ends and the NUL-free head of an existing, non-empty file. Answers 1 with
 // `ascii` = " " for a NUL in the first 4096 bytes, 1 with `termination` set for LF line ends,

@@ -87,8 +87,8 @@ std::string buildReport(const RunContext& run, const std::string& dateText) {
   return out;
 }
 
-int writeLogFile(const RunContext& run, const std::string& logFile, const std::string& firstNote,
-                 const std::string& secondNote) {
+RunStatus writeLogFile(const RunContext& run, const std::string& logFile,
+                       const std::string& firstNote, const std::string& secondNote) {
   std::string text;
   if (!secondNote.empty()) text += "Note: " + secondNote + kEol + kEol;
   if (!firstNote.empty()) text += firstNote + kEol;
@@ -97,9 +97,9 @@ int writeLogFile(const RunContext& run, const std::string& logFile, const std::s
   if (auto failure = writeFileSafely(logFile, text)) {
     run.log("Error: Log file " + logFile +
             " could not be written: " + describeWriteError(*failure) + ".");
-    return RUN_FAULT;
+    return RunStatus::Fault;
   }
-  return RUN_COMPLETED;
+  return RunStatus::Completed;
 }
 
 }  // namespace zorvik

@@ -26,9 +26,9 @@ std::string buildReport(const RunContext& run, const std::string& dateText);
 
 // Replaces `logFile` with the report of the run: "Note: " + `secondNote` and an empty
 // line when that note is not empty, `firstNote` as a line when not empty, the report and one more
-// line end. Returns RUN_COMPLETED, or RUN_FAULT when the file could not be written: the previous
-// file is then left as it was and the command log says why.
-int writeLogFile(const RunContext& run, const std::string& logFile, const std::string& firstNote,
-                 const std::string& secondNote);
+// line end. Returns RunStatus::Completed, or RunStatus::Fault when the file could not be written:
+// the previous file is then left as it was and the command log says why.
+RunStatus writeLogFile(const RunContext& run, const std::string& logFile,
+                       const std::string& firstNote, const std::string& secondNote);
 
 }  // namespace zorvik

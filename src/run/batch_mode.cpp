@@ -20,10 +20,10 @@ void writeHandlerEntry(const RunContext& run, const Fault& fault) {
 
 void certify(RunContext& run) {
   Slots group1;
-  int fileStatus = beginRun(run, group1);
+  RunStatus fileStatus = beginRun(run, group1);
 
-  int status = RUN_FAULT;
-  if (fileStatus == RUN_STOPPED) {
+  RunStatus status = RunStatus::Fault;
+  if (fileStatus == RunStatus::Stopped) {
     // An unusable file still gets its report; the run then goes on to the version sniff, which
     // fails and leaves its own entries in the command log.
     storeFileResults(run, group1);
@@ -49,9 +49,9 @@ void certify(RunContext& run) {
             ". No further processing will be done.");
   }
 
-  if (status == RUN_COMPLETED) {
+  if (status == RunStatus::Completed) {
     writeLogFile(run, run.logFile, "", "");
-  } else if (status != RUN_STOPPED) {
+  } else if (status != RunStatus::Stopped) {
     run.log("A processing error occured within the program.");
   }
 }

@@ -151,11 +151,12 @@ FileCertification certifyIn(RunContext& context, const CertifyOptions& options,
   result.verdict = Verdict::Failed;
   auto writeReport = [&] {
     if (!options.reportFile.empty())
-      result.reportWritten = writeLogFile(context, options.reportFile, "", "") == RUN_COMPLETED;
+      result.reportWritten =
+          writeLogFile(context, options.reportFile, "", "") == RunStatus::Completed;
   };
 
   Slots group1;
-  if (beginRun(context, group1) == RUN_STOPPED) {
+  if (beginRun(context, group1) == RunStatus::Stopped) {
     storeFileResults(context, group1);
     writeReport();
     float version = sniffVersion(path);
@@ -173,7 +174,7 @@ FileCertification certifyIn(RunContext& context, const CertifyOptions& options,
   }
   context.dialect.version = version;
   result.version = versionText(version);
-  int status = RUN_FAULT;
+  RunStatus status = RunStatus::Fault;
   if (version == 1.2f || version == 2.0f) {
     status = aaCertify2(context);
   } else if (version == 3.0f) {
@@ -185,7 +186,7 @@ FileCertification certifyIn(RunContext& context, const CertifyOptions& options,
   }
 
   result.rows = rowsOf(context.results());
-  if (status != RUN_COMPLETED) {
+  if (status != RunStatus::Completed) {
     result.note = "a processing error ended the certification";
     if (!messages.empty()) result.note += ": " + messages.back();
     return result;

@@ -53,7 +53,7 @@ struct WindowRun {
 
   // Runs the version's driver; an unknown version is certified by the 1.2/2.0 driver here,
   // unlike in batch mode, so the user still sees what can be checked.
-  int dispatch() {
+  RunStatus dispatch() {
     float version = sniffVersion(run.lasFile);
     run.dialect.version = version;
     if (version == 0.0f) {
@@ -61,7 +61,7 @@ struct WindowRun {
       if (window != nullptr &&
           !window->askOkCancel("LAS Version Not Found!",
                                "LAS Version was not determined. Proceeding as if Ver 2.0. "))
-        return RUN_FAULT;
+        return RunStatus::Fault;
       prepareTabs(run.dialect.version);
       return aaCertify2(run);
     }
@@ -74,17 +74,17 @@ struct WindowRun {
     setStatus("Checking in Progress...");
 
     Slots group1;
-    int fileStatus = beginRun(run, group1);
+    RunStatus fileStatus = beginRun(run, group1);
 
-    int status = RUN_COMPLETED;
-    if (fileStatus == RUN_STOPPED) {
+    RunStatus status = RunStatus::Completed;
+    if (fileStatus == RunStatus::Stopped) {
       // Only group 1 is filled; a usable file's tables belong to the version driver.
       storeFileResults(run, group1);
     } else {
       status = dispatch();
     }
 
-    if (status == RUN_COMPLETED) {
+    if (status == RunStatus::Completed) {
       enableTabs(true);
       if (window != nullptr) window->fillResultGrid(run.results());
       showOutcome(100, verdict(run));
@@ -96,7 +96,7 @@ struct WindowRun {
         session.logFile = "";
         run.logFile = "";
       }
-    } else if (status == RUN_STOPPED) {
+    } else if (status == RunStatus::Stopped) {
       enableTabs(false);
       showOutcome(0, "Certification cancelled");
       // The user's cancel request has been served; the next run must not ask again at once.

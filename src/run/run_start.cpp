@@ -30,7 +30,7 @@ void removeLeftoversBeside(const std::string& lasFile, const std::string& logFil
 
 }  // namespace
 
-int beginRun(RunContext& run, Slots& group1) {
+RunStatus beginRun(RunContext& run, Slots& group1) {
   // A run that died while rewriting the LAS file or writing its report left a temporary file
   // beside it; this run on the same folders clears it away.
   removeLeftoversBeside(run.lasFile, run.logFile, std::time(nullptr));
@@ -38,7 +38,7 @@ int beginRun(RunContext& run, Slots& group1) {
   run.table2.clear();
   layOutCatalogue(run);
 
-  int fileStatus = fileLevelChecks(run, group1);
+  RunStatus fileStatus = fileLevelChecks(run, group1);
   for (int row = 1; row <= run.table2.lastRow(); ++row) run.table2.at(row, COL_MARK, 1) = " ";
   return fileStatus;
 }

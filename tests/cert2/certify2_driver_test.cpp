@@ -56,6 +56,18 @@ Certify2Checks scriptedChecks() {
   return c;
 }
 
+const char* endOf(RunStatus status) {
+  switch (status) {
+    case RunStatus::Completed:
+      return "completed";
+    case RunStatus::Fault:
+      return "fault";
+    case RunStatus::Stopped:
+      return "stopped";
+  }
+  return "?";
+}
+
 // Runs the scripted checks on a small file; gives the run in one line: the groups called, the
 // group.row results holding text (and notes), how it ended and the command log messages ("2 3 |
 // 3.1 | fault Error: ...").
@@ -64,7 +76,7 @@ std::string runScript(const testing::RunSandbox& sandbox, RunContext& run, bool 
   if (dataSections) text += "~Curve\r\nDEPT.M :\r\n~A\r\n1\r\n2\r\n";
   called.clear();
   run.lasFile = sandbox.dir().write("driver.las", text);
-  const int status = aaCertify2With(run, scriptedChecks());
+  const RunStatus status = aaCertify2With(run, scriptedChecks());
   std::string outcome;
   for (int group : called) outcome += std::to_string(group) + " ";
   outcome += "|";
@@ -75,9 +87,8 @@ std::string runScript(const testing::RunSandbox& sandbox, RunContext& run, bool 
       if (!run.table2.at(row, COL_NOTE, group).empty()) outcome += cell + "(note)";
     }
   }
-  const char* ends[] = {"completed", "fault", "stopped"};
-  outcome += " | " + std::string(ends[status + 1]) + " " +
-             testing::commandLogMessages(sandbox.commandLog());
+  outcome +=
+      " | " + std::string(endOf(status)) + " " + testing::commandLogMessages(sandbox.commandLog());
   return outcome.substr(0, outcome.find_last_not_of(" \n") + 1);
 }
 

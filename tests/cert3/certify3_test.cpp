@@ -25,7 +25,7 @@ struct DriverRun {
   }
 
   // Certifies `file` in this run's context.
-  int certify(const std::string& file) {
+  RunStatus certify(const std::string& file) {
     context.lasFile = file;
     return aaCertify3(context);
   }
@@ -53,7 +53,7 @@ TEST(Certify3, RunsEveryGroupReportingProgress) {
   const std::size_t at = text.find("Example Field");
   ASSERT_NE(at, std::string::npos);
   text[at + 7] = '~';
-  EXPECT_EQ(run.certify(run.sandbox.dir().write("tilde.las", text)), RUN_COMPLETED);
+  EXPECT_EQ(run.certify(run.sandbox.dir().write("tilde.las", text)), RunStatus::Completed);
   EXPECT_EQ(run.context.table3.at(7, COL_RESULT, 0),
             "Tilde not first non-space character of the line\r\n"
             "FLD.       Example~Field : Field\r\n");
@@ -70,7 +70,7 @@ TEST(Certify3, FileLevelFindingsSurviveAndStopAfterTheVersionChecks) {
   run.context.table3.at(6, COL_RESULT, 1) = "not a .las name";
   run.context.table3.at(6, COL_MARK, 1) = " ";
   run.context.table3.at(3, COL_RESULT, 4) = "left from an earlier run";
-  EXPECT_EQ(run.certify(EXAMPLE), RUN_COMPLETED);
+  EXPECT_EQ(run.certify(EXAMPLE), RunStatus::Completed);
   EXPECT_EQ(run.context.table3.at(6, COL_RESULT, 1), "not a .las name");
   for (int g : {0, 2}) EXPECT_EQ(groupState(run, g), "done") << "group " << g;
   for (int g = 3; g <= 9; ++g) EXPECT_EQ(groupState(run, g), "untouched") << "group " << g;
@@ -80,12 +80,12 @@ TEST(Certify3, EscapeAndTheCancelQuestion) {
   struct Row {
     const char* what;
     bool answerYes, withWindow;
-    int result;
+    RunStatus result;
   };
   const Row rows[] = {
-      {"answered Yes", true, true, RUN_STOPPED},
-      {"answered No", false, true, RUN_COMPLETED},
-      {"no window to ask", true, false, RUN_COMPLETED},
+      {"answered Yes", true, true, RunStatus::Stopped},
+      {"answered No", false, true, RunStatus::Completed},
+      {"no window to ask", true, false, RunStatus::Completed},
   };
   const std::string question =
       "Please Confirm!|Do you want to cancel the certification in progress?";
@@ -102,10 +102,10 @@ TEST(Certify3, EscapeAndTheCancelQuestion) {
     };
     EXPECT_EQ(run.certify(EXAMPLE), row.result);
     EXPECT_EQ(run.window.questions, std::vector<std::string>(row.withWindow ? 1 : 0, question));
-    EXPECT_EQ(groupState(run, 9), row.result == RUN_COMPLETED ? "done" : "untouched");
-    EXPECT_EQ(run.window.cancel, row.result == RUN_STOPPED);
+    EXPECT_EQ(groupState(run, 9), row.result == RunStatus::Completed ? "done" : "untouched");
+    EXPECT_EQ(run.window.cancel, row.result == RunStatus::Stopped);
     EXPECT_EQ(run.sandbox.commandLog(), "");  // a cancel is no fault
-    if (row.result == RUN_STOPPED) {
+    if (row.result == RunStatus::Stopped) {
       EXPECT_EQ(groupState(run, 5), "done");
       EXPECT_EQ(groupState(run, 6), "untouched");
     }
@@ -114,7 +114,7 @@ TEST(Certify3, EscapeAndTheCancelQuestion) {
 
 TEST(Certify3, UnreadableFileEndsThroughTheTrap) {
   DriverRun run;
-  EXPECT_EQ(run.certify(run.sandbox.dir().file("missing.las")), RUN_FAULT);
+  EXPECT_EQ(run.certify(run.sandbox.dir().file("missing.las")), RunStatus::Fault);
   EXPECT_NE(run.sandbox.commandLog().find("Error: VB Error in aaCertify3: . Error #0\r\n"),
             std::string::npos);
   EXPECT_EQ(groupState(run, 0), "done");

@@ -73,7 +73,8 @@ TEST(FileLevelChecks, GiveGroupOneResults) {
     Slots results;
     RunContext run;
     run.lasFile = row.fileName;
-    EXPECT_EQ(fileLevelChecks(run, results), row.findings.empty() ? RUN_COMPLETED : RUN_STOPPED);
+    EXPECT_EQ(fileLevelChecks(run, results),
+              row.findings.empty() ? RunStatus::Completed : RunStatus::Stopped);
     std::string findings;
     for (int r = 1; r <= 15; ++r) {
       if (!results[r].empty())

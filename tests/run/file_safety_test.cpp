@@ -70,17 +70,17 @@ TEST(Report, AFailedWriteKeepsThePreviousLogFileAndSaysWhy) {
   run.lasFile = sandbox.dir().file("a.las");
   run.logFile = sandbox.dir().write("out.log", "previous report\r\n");
   FailingWrites full(".zorvik-", false);
-  int status = RUN_COMPLETED;
+  RunStatus status = RunStatus::Completed;
   {
     ScopedFileSystemCalls installed(full);
     status = writeLogFile(run, run.logFile, "", "");
   }
-  EXPECT_EQ(status, RUN_FAULT);
+  EXPECT_EQ(status, RunStatus::Fault);
   EXPECT_EQ(readBytes(run.logFile), "previous report\r\n");
   EXPECT_EQ(testing::commandLogMessages(sandbox.commandLog()),
             "Error: Log file " + run.logFile +
                 " could not be written: writing failed: No space left on device.\n");
-  EXPECT_EQ(writeLogFile(run, run.logFile, "", ""), RUN_COMPLETED);
+  EXPECT_EQ(writeLogFile(run, run.logFile, "", ""), RunStatus::Completed);
   EXPECT_TRUE(readBytes(run.logFile).starts_with("LAS Certification Result for: "));
 }
 
