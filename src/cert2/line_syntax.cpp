@@ -114,12 +114,11 @@ void judgeHeaderLines(LineReader& file, const Dialect& dialect, bool tabDelimite
   }
 }
 
-std::string wrapMessage(int structure, const std::string& wrapValue) {
-  if (structure == 0) return "Error determining Wrap structure. Likely bad file.";
-  if (structure != WRAP_UNWRAPPED && structure != WRAP_WRAPPED)
+std::string wrapMessage(WrapLayout structure, const std::string& wrapValue) {
+  if (structure != WrapLayout::Unwrapped && structure != WrapLayout::Wrapped)
     return "Error determining Wrap structure. Likely missing or extra channels at some depths.";
   std::string wrap = toUpper(trimView(wrapValue));
-  std::string looks = structure == WRAP_UNWRAPPED ? "NO" : "YES";
+  std::string looks = structure == WrapLayout::Unwrapped ? "NO" : "YES";
   // A WRAP that is neither YES nor NO is the ~Version check's finding, not this one's.
   if ((wrap == "YES" || wrap == "NO") && wrap != looks)
     return "WRAP value does not match ~ASCII section structure. WRAP =" + wrap +
@@ -153,11 +152,11 @@ CheckStatus checkLineSyntax(RunContext& run, const std::string& wrapValue,
   int perRecord = 0;
   int bufferLength = 0;
   int perRecordChannels = 0;
-  int structure =
+  const WrapLayout structure =
       analyseWrap(run, perRecord, bufferLength, perRecordChannels, curveTable.lastEntry());
   linesPerRecord = 1;
   channels = 0;
-  if (structure == WRAP_UNWRAPPED || structure == WRAP_WRAPPED) {
+  if (structure == WrapLayout::Unwrapped || structure == WrapLayout::Wrapped) {
     linesPerRecord = perRecord;
     channels = perRecordChannels;
   }

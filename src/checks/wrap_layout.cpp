@@ -54,13 +54,13 @@ int curveLineCount(const LasFile& file, const Dialect& dialect, SectionIndex& se
 
 }  // namespace
 
-int analyseWrap(const LasFile& source, const Dialect& dialect, SectionIndex& sections,
-                RunObserver* observer, int& linesPerRecord, int& bufferLength, int& channels,
-                int sampleHint) {
+WrapLayout analyseWrap(const LasFile& source, const Dialect& dialect, SectionIndex& sections,
+                       RunObserver* observer, int& linesPerRecord, int& bufferLength, int& channels,
+                       int sampleHint) {
   linesPerRecord = bufferLength = channels = 0;
   std::int64_t start = dataSectionStart(source, dialect, sections);
   LineReader file;
-  if (start <= 0 || !file.open(source) || start >= file.length()) return WRAP_UNDETERMINED;
+  if (start <= 0 || !file.open(source) || start >= file.length()) return WrapLayout::Undetermined;
   const std::string delimiter = dialect.delimiter.empty() ? std::string(" ") : dialect.delimiter;
 
   // About three fifths of the channel count: enough lines for two records of any usual layout.
@@ -73,9 +73,9 @@ int analyseWrap(const LasFile& source, const Dialect& dialect, SectionIndex& sec
   while (lines.size() <= sampleSize && file.readLine(line)) {
     if (trimView(line).empty()) continue;
     lines.push_back({countWords(line, delimiter), static_cast<int>(trimRightView(line).size())});
-    if (serviceWindow(observer)) return WRAP_CANCELLED;
+    if (serviceWindow(observer)) return WrapLayout::Cancelled;
   }
-  if (lines.empty()) return WRAP_UNDETERMINED;
+  if (lines.empty()) return WrapLayout::Undetermined;
 
   bool uniform = true;
   for (const SampledLine& l : lines) uniform = uniform && l.fields == lines[0].fields;
@@ -83,7 +83,7 @@ int analyseWrap(const LasFile& source, const Dialect& dialect, SectionIndex& sec
     linesPerRecord = 1;
     bufferLength = lines[0].length + 2;
     channels = lines[0].fields;
-    return WRAP_UNWRAPPED;
+    return WrapLayout::Unwrapped;
   }
 
   // A record of k lines repeats when the field counts of lines 1..k match those of k+1..2k and
@@ -98,13 +98,13 @@ int analyseWrap(const LasFile& source, const Dialect& dialect, SectionIndex& sec
       bufferLength += lines[i].length + 2;
       channels += lines[i].fields;
     }
-    return WRAP_WRAPPED;
+    return WrapLayout::Wrapped;
   }
-  return WRAP_UNDETERMINED;
+  return WrapLayout::Undetermined;
 }
 
-int analyseWrap(RunContext& run, int& linesPerRecord, int& bufferLength, int& channels,
-                int sampleHint) {
+WrapLayout analyseWrap(RunContext& run, int& linesPerRecord, int& bufferLength, int& channels,
+                       int sampleHint) {
   return analyseWrap(run.source(), run.dialect, run.sections, run.observer, linesPerRecord,
                      bufferLength, channels, sampleHint);
 }

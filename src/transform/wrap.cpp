@@ -138,7 +138,7 @@ bool unwrapFile(const std::string& source, const std::string& destination, RunOb
   int bufferLength = 0;
   int channels = 0;
   if (analyseWrap(file, dialect, sections, observer, linesPerRecord, bufferLength, channels, 0) !=
-      WRAP_WRAPPED)
+      WrapLayout::Wrapped)
     return true;
 
   std::error_code ec;

@@ -35,21 +35,24 @@ const char* const kWrapped155 =
 TEST(AnalyseWrap, FindsTheLinesOfOneRecord) {
   struct Row {
     std::string data;
-    int hint, curves, code, linesPerRecord, bufferLength, channels;
+    int hint, curves;
+    WrapLayout layout;
+    int linesPerRecord, bufferLength, channels;
   };
   const Row rows[] = {
-      {"1000.0 1 2|1000.5 1 2  |1001.0 3 4", 3, 3, WRAP_UNWRAPPED, 1, 12, 3},
+      {"1000.0 1 2|1000.5 1 2  |1001.0 3 4", 3, 3, WrapLayout::Unwrapped, 1, 12, 3},
       // Seven lines sampled show the record; four do not.
-      {kWrapped155, 11, 3, WRAP_WRAPPED, 3, 8 + 11 + 12, 11},
-      {kWrapped155, 5, 3, WRAP_UNDETERMINED, 0, 0, 0},
-      {kWrapped155, 11, 3, WRAP_CANCELLED, 0, 0, 0},  // Escape pressed while sampling
-      {"1000.0||1 2|1000.5|  |1 2|1001.0", 5, 3, WRAP_WRAPPED, 2, 8 + 5, 3},  // blanks not sampled
+      {kWrapped155, 11, 3, WrapLayout::Wrapped, 3, 8 + 11 + 12, 11},
+      {kWrapped155, 5, 3, WrapLayout::Undetermined, 0, 0, 0},
+      {kWrapped155, 11, 3, WrapLayout::Cancelled, 0, 0, 0},  // Escape pressed while sampling
+      {"1000.0||1 2|1000.5|  |1 2|1001.0", 5, 3, WrapLayout::Wrapped, 2, 8 + 5,
+       3},  // blanks not sampled
       // A first line of 12 fields passes the loose test.
-      {"a b c d e f g h i j k l|1 2 3|a b c d e f g h i j k l|1 2 3", 5, 3, WRAP_WRAPPED, 2, 25 + 7,
-       15},
+      {"a b c d e f g h i j k l|1 2 3|a b c d e f g h i j k l|1 2 3", 5, 3, WrapLayout::Wrapped, 2,
+       25 + 7, 15},
       // Hint 0 counts the ~Curve lines, which may be too few to see a record.
-      {"1000.0|1 2|1000.5|1 2", 0, 5, WRAP_WRAPPED, 2, 8 + 5, 3},
-      {"1000.0|1 2|1000.5|1 2", 0, 3, WRAP_UNDETERMINED, 0, 0, 0},
+      {"1000.0|1 2|1000.5|1 2", 0, 5, WrapLayout::Wrapped, 2, 8 + 5, 3},
+      {"1000.0|1 2|1000.5|1 2", 0, 3, WrapLayout::Undetermined, 0, 0, 0},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.data + " hint " + std::to_string(row.hint));
@@ -59,14 +62,14 @@ TEST(AnalyseWrap, FindsTheLinesOfOneRecord) {
     run.dialect.version = 2.0f;
     locateStandardSections(LasFile(path), run.dialect, run.sections);
     testing::FakeWindow window;
-    if (row.code == WRAP_CANCELLED) {
+    if (row.layout == WrapLayout::Cancelled) {
       window.onEvents = [&window](const std::string&) { window.cancel = true; };
     }
     run.observer = &window;
     int lines = -1, buffer = -1, channels = -1;
-    int code = analyseWrap(run, lines, buffer, channels, row.hint);
-    EXPECT_EQ((std::vector<int>{code, lines, buffer, channels}),
-              (std::vector<int>{row.code, row.linesPerRecord, row.bufferLength, row.channels}));
+    EXPECT_EQ(analyseWrap(run, lines, buffer, channels, row.hint), row.layout);
+    EXPECT_EQ((std::vector<int>{lines, buffer, channels}),
+              (std::vector<int>{row.linesPerRecord, row.bufferLength, row.channels}));
   }
 }
 
