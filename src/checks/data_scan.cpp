@@ -63,10 +63,10 @@ IncrementWalk::IncrementWalk(int linesPerRecord, char delimiter)
     : linesPerRecord_(std::max(1, linesPerRecord)), delimiter_(delimiter) {}
 
 bool IncrementWalk::feed(std::string_view line) {
-  if (answer_ != 0) return false;
+  if (answer_) return false;
   std::string_view t = trimLeftView(line);
   if (isTitleLine(t)) {
-    answer_ = records_ < 2 ? STEP_NO_INCREMENT : STEP_CONSTANT;
+    answer_ = records_ < 2 ? StepAnswer::NoIncrement : StepAnswer::Constant;
     return false;
   }
   if (t.empty() || t[0] == '#') return true;
@@ -77,7 +77,7 @@ bool IncrementWalk::feed(std::string_view line) {
   std::string_view field = leadingField(t, delimiter_);
   double value = 0;
   if (!parseRoundedNumber(field, value)) {
-    answer_ = STEP_UNANALYSABLE;
+    answer_ = StepAnswer::Unanalysable;
     return false;
   }
   if (++records_ >= 2) {
@@ -88,7 +88,7 @@ bool IncrementWalk::feed(std::string_view line) {
     if (records_ == 2) {
       firstIncrement_ = static_cast<float>(increment);
     } else if (static_cast<float>(increment) != firstIncrement_) {
-      answer_ = STEP_VARIES;
+      answer_ = StepAnswer::Varies;
       return false;
     }
   }
@@ -96,9 +96,12 @@ bool IncrementWalk::feed(std::string_view line) {
   return true;
 }
 
-int IncrementWalk::finish(IncrementResult& result) const {
-  int answer = answer_ != 0 ? answer_ : (records_ < 2 ? STEP_NO_INCREMENT : STEP_CONSTANT);
-  result = answer == STEP_UNANALYSABLE || answer == STEP_NO_INCREMENT ? IncrementResult{} : result_;
+StepAnswer IncrementWalk::finish(IncrementResult& result) const {
+  const StepAnswer answer =
+      answer_.value_or(records_ < 2 ? StepAnswer::NoIncrement : StepAnswer::Constant);
+  result = answer == StepAnswer::Unanalysable || answer == StepAnswer::NoIncrement
+               ? IncrementResult{}
+               : result_;
   return answer;
 }
 

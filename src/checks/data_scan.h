@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,11 +15,13 @@
 namespace zorvik {
 
 // Answers of the increment walk.
-inline constexpr int STEP_CONSTANT = 1;
-inline constexpr int STEP_VARIES = 2;
-inline constexpr int STEP_UNREADABLE = 3;    // the file could not be read
-inline constexpr int STEP_UNANALYSABLE = 4;  // an index that is not a number
-inline constexpr int STEP_NO_INCREMENT = 5;  // fewer than two records: no increment to judge
+enum class StepAnswer {
+  Constant,
+  Varies,
+  Unreadable,    // the file could not be read
+  Unanalysable,  // an index that is not a number
+  NoIncrement,   // fewer than two records: no increment to judge
+};
 
 struct IncrementResult {
   double increment = 0;   // the last increment read (the one that broke the pattern, if any)
@@ -34,7 +37,7 @@ class IncrementWalk {
   // Takes the next data line; false once the answer is known (a title line also ends the walk).
   bool feed(std::string_view line);
   // The answer for the lines fed so far.
-  int finish(IncrementResult& result) const;
+  StepAnswer finish(IncrementResult& result) const;
 
  private:
   int linesPerRecord_;
@@ -43,7 +46,7 @@ class IncrementWalk {
   std::int64_t records_ = 0;
   double previous_ = 0;
   float firstIncrement_ = 0;
-  int answer_ = 0;  // 0 while walking
+  std::optional<StepAnswer> answer_;  // none while walking
   IncrementResult result_;
 };
 
@@ -106,7 +109,7 @@ struct DataScan {
   char delimiter = ' ';
   int linesPerRecord = 1;
   RecordRules rules;
-  int incrementAnswer = 0;
+  StepAnswer incrementAnswer = StepAnswer::Unanalysable;
   IncrementResult increments;
   std::string countFinding;
   std::string lengthFinding;

@@ -85,13 +85,13 @@ std::string_view trimChar(std::string_view s, char c) {
   return s;
 }
 
-int readIndexEnds(RunContext& run, const std::string& wrapValue, IndexEnds& ends,
-                  int linesPerRecord) {
+IndexAnswer readIndexEnds(RunContext& run, const std::string& wrapValue, IndexEnds& ends,
+                          int linesPerRecord) {
   ends = {};
   LineReader file;
-  if (!file.open(run.source())) return INDEX_FAULT;
+  if (!file.open(run.source())) return IndexAnswer::Fault;
   std::int64_t first = firstDataLinePosition(run);
-  if (noDataAt(first, file.length())) return INDEX_NO_DATA;
+  if (noDataAt(first, file.length())) return IndexAnswer::NoData;
   char delimiter = run.dialect.delimiterChar();
 
   file.seek(first);
@@ -134,15 +134,15 @@ int readIndexEnds(RunContext& run, const std::string& wrapValue, IndexEnds& ends
   }
   ends.lastText = last;
   ends.last = roundTo5(leadingNumber(last));
-  return INDEX_READ;
+  return IndexAnswer::Read;
 }
 
-int analyseIncrements(RunContext& run, int linesPerRecord, IncrementResult& result) {
+StepAnswer analyseIncrements(RunContext& run, int linesPerRecord, IncrementResult& result) {
   result = {};
   LineReader file;
-  if (!file.open(run.source())) return STEP_UNREADABLE;
+  if (!file.open(run.source())) return StepAnswer::Unreadable;
   std::int64_t first = firstDataLinePosition(run);
-  if (noDataAt(first, file.length())) return STEP_NO_INCREMENT;
+  if (noDataAt(first, file.length())) return StepAnswer::NoIncrement;
   IncrementWalk walk(linesPerRecord, run.dialect.delimiterChar());
   file.seek(first);
   std::string_view line;
@@ -187,7 +187,8 @@ CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::s
   int channels = 0;
   analyseWrap(run, linesPerRecord, bufferLength, channels, curveTable.lastEntry());
   IndexEnds ends;
-  if (readIndexEnds(run, wrapValue, ends, linesPerRecord) == INDEX_FAULT) return evaluate(slots);
+  if (readIndexEnds(run, wrapValue, ends, linesPerRecord) == IndexAnswer::Fault)
+    return evaluate(slots);
 
   slots[2].clear();
   if (roundTo5(strt.number) != ends.first)
@@ -221,7 +222,7 @@ CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::s
 
   // Group 4's pass may already have walked the increments of this very data.
   IncrementResult increments;
-  int answer = 0;
+  StepAnswer answer = StepAnswer::Unanalysable;
   const DataScan* kept = keptScan(run.dataScan, run.lasFile, firstDataLinePosition(run));
   if (kept != nullptr && kept->linesPerRecord == linesPerRecord &&
       kept->delimiter == run.dialect.delimiterChar()) {
@@ -231,7 +232,7 @@ CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::s
     answer = analyseIncrements(run, linesPerRecord, increments);
   }
   switch (answer) {
-    case STEP_CONSTANT:
+    case StepAnswer::Constant:
       if (stepZero)
         slots[4] =
             "~Well STEP value is 0.0 (implies non-constant step) but the STEP as read from ~" +
@@ -240,7 +241,7 @@ CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::s
         slots[4] = "~Well STEP value = " + formatFixed(step.number) + ", last read increment @ " +
                    increments.indexText + " was " + formatFixed(increments.increment);
       break;
-    case STEP_VARIES:
+    case StepAnswer::Varies:
       if (stepZero) break;
       if (std::fabs(step.number - increments.increment) <= tolerance)
         slots[6] = "Possible rounding error? STEP value = " + step.text +
@@ -250,13 +251,12 @@ CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::s
         slots[4] = "STEP no longer constant at : " + formatFixed(increments.index) + " (" +
                    formatFixed(increments.increment) + ")";
       break;
-    case STEP_UNREADABLE:
+    case StepAnswer::Unreadable:
       return evaluate(slots);
-    case STEP_UNANALYSABLE:
+    case StepAnswer::Unanalysable:
       return CheckStatus::Nothing;  // deliberately records nothing for this check
-    case STEP_NO_INCREMENT:
+    case StepAnswer::NoIncrement:
       // A single record has no increment to compare STEP with; its STRT and STOP still count.
-    default:
       break;
   }
   return evaluate(slots);

@@ -41,20 +41,18 @@ struct IndexEnds {
   std::string firstText;  // as written, before the first delimiter
   std::string lastText;
 };
-inline constexpr int INDEX_FAULT = 0;
-inline constexpr int INDEX_READ = -1;
-inline constexpr int INDEX_NO_DATA = 2;
+enum class IndexAnswer { Read, NoData, Fault };
 // Reads the first index from the first data line and the last one from at most the final
 // 100000 bytes of the data. With WRAP other than NO the index stands alone on the first line of a
 // record: the last index is the first of the last `linesPerRecord` data lines when that line holds
-// no delimiter, else the last line holding none. INDEX_READ, INDEX_NO_DATA (no data line) or
-// INDEX_FAULT (the file cannot be read).
-int readIndexEnds(RunContext& run, const std::string& wrapValue, IndexEnds& ends,
-                  int linesPerRecord = 0);
+// no delimiter, else the last line holding none. IndexAnswer::Read, IndexAnswer::NoData (no data
+// line) or IndexAnswer::Fault (the file cannot be read).
+IndexAnswer readIndexEnds(RunContext& run, const std::string& wrapValue, IndexEnds& ends,
+                          int linesPerRecord = 0);
 
 // Increment analysis of the index channel (answers and result in cert2/data_scan.h): walks the
 // records of the data section up to the end of the file or a title line.
-int analyseIncrements(RunContext& run, int linesPerRecord, IncrementResult& result);
+StepAnswer analyseIncrements(RunContext& run, int linesPerRecord, IncrementResult& result);
 
 // Removes every leading and trailing `c` ("0.1500" with '0' gives ".15").
 std::string_view trimChar(std::string_view s, char c);

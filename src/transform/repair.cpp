@@ -118,7 +118,7 @@ struct Facts {
   std::int64_t counted = 0;
   std::string firstIndex;
   std::string lastIndex;
-  int incrementAnswer = STEP_UNANALYSABLE;
+  StepAnswer incrementAnswer = StepAnswer::Unanalysable;
   IncrementResult increment;
 };
 
@@ -155,7 +155,7 @@ class DataWalk {
 
   void finish() {
     if (!started_) start();
-    facts_.incrementAnswer = walk_ ? walk_->finish(facts_.increment) : STEP_UNANALYSABLE;
+    facts_.incrementAnswer = walk_ ? walk_->finish(facts_.increment) : StepAnswer::Unanalysable;
   }
 
  private:
@@ -455,7 +455,7 @@ class Repairer {
       if (m == "STRT") value = f.firstIndex;
       if (m == "STOP") value = f.lastIndex;
       if (m == "STEP")
-        value = f.incrementAnswer == STEP_CONSTANT ? stepText(f.increment.increment) : "0";
+        value = f.incrementAnswer == StepAnswer::Constant ? stepText(f.increment.increment) : "0";
       if (m == "NULL") value = "-999.25";
       if (hasUnit(m)) {
         if (f.counted == 0) {
@@ -498,7 +498,7 @@ class Repairer {
     const KnownLine* stop = known("STOP");
     const KnownLine* step = known("STEP");
     const KnownLine* null = known("NULL");
-    const bool constant = f.incrementAnswer == STEP_CONSTANT;
+    const bool constant = f.incrementAnswer == StepAnswer::Constant;
     const std::string dataStep = constant ? stepText(f.increment.increment) : "0";
 
     if (allowed(VALUES_PRESENT)) {
@@ -520,7 +520,7 @@ class Repairer {
         formatFixed(value) != formatFixed(last))
       replaceValue(*stop, STOP_MATCHES, formatFixed(last));
     if (step && allowed(STEP_MATCHES) && parseNumber(step->value, value) &&
-        (f.incrementAnswer == STEP_CONSTANT || f.incrementAnswer == STEP_VARIES)) {
+        (f.incrementAnswer == StepAnswer::Constant || f.incrementAnswer == StepAnswer::Varies)) {
       const bool wrong = constant ? formatFixed(value) != dataStep
                                   : value != 0 && !withinRounding(step->value, value);
       if (wrong) replaceValue(*step, STEP_MATCHES, dataStep);

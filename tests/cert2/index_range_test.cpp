@@ -61,28 +61,29 @@ TEST(IndexChannel, EndsAndIncrements) {
       {"a single record", 1, {"1000.0 1"}, "no-increment 0.00000 ", "1000.0 1000.0 1000 1000"},
       {"a large section", 1, big, "constant 1.00000 21999.25", "2000.25 21999.25 2000.25 21999.25"},
   };
-  const char* answers[] = {"", "constant", "varies", "unreadable", "unanalysable", "no-increment"};
+  // In the order of StepAnswer.
+  const char* answers[] = {"constant", "varies", "unreadable", "unanalysable", "no-increment"};
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     const std::string wrap = row.linesPerRecord == 1 ? "NO" : "YES";
     RunContext run = prepareLas("index.las", lasBytes({.data = row.data, .wrap = wrap}));
     IndexEnds ends;
     EXPECT_EQ(readIndexEnds(run, wrap, ends, row.linesPerRecord),
-              row.data.empty() ? INDEX_NO_DATA : INDEX_READ);
+              row.data.empty() ? IndexAnswer::NoData : IndexAnswer::Read);
     EXPECT_EQ(ends.firstText + " " + ends.lastText + " " + formatShortest(ends.first) + " " +
                   formatShortest(ends.last),
               row.ends);
     if (row.increments.empty()) continue;  // no record length to walk by
     IncrementResult result;
-    const int answer = analyseIncrements(run, row.linesPerRecord, result);
-    EXPECT_EQ(
-        std::string(answers[answer]) + " " + formatFixed(result.increment) + " " + result.indexText,
-        row.increments);
+    const StepAnswer answer = analyseIncrements(run, row.linesPerRecord, result);
+    EXPECT_EQ(std::string(answers[static_cast<int>(answer)]) + " " + formatFixed(result.increment) +
+                  " " + result.indexText,
+              row.increments);
   }
   IncrementResult result;
   RunContext missing;
   missing.lasFile = "/nonexistent/file.las";
-  EXPECT_EQ(analyseIncrements(missing, 1, result), STEP_UNREADABLE);
+  EXPECT_EQ(analyseIncrements(missing, 1, result), StepAnswer::Unreadable);
 }
 
 CheckStatus checkRange(RunContext& run, const ParamTable& well, const ParamTable& curve,
