@@ -66,7 +66,7 @@ CheckStatus checkAsciiSection(RunContext& run, const std::string& wrapValue, int
   std::int64_t length = fileLength(run.lasFile);
 
   for (const SectionEntry& section : index) {
-    if (section.role != ROLE_DATA) continue;
+    if (section.role != SectionRole::Data) continue;
 
     std::string definitionName;
     int definitions = dataChannelDefinitions(run, section, curveTable, definitionName);

@@ -131,7 +131,7 @@ std::string wrapMessage(WrapLayout structure, const std::string& wrapValue) {
 const SectionEntry* walkedDataSection(RunContext& run) {
   const SectionEntry* data = nullptr;
   for (const SectionEntry& section : run.sections.entries) {
-    if (section.role != ROLE_DATA) continue;
+    if (section.role != SectionRole::Data) continue;
     if (data != nullptr) return nullptr;
     data = &section;
   }
@@ -165,7 +165,7 @@ CheckStatus checkLineSyntax(RunContext& run, const std::string& wrapValue,
   if (!file.open(run.source())) return CheckStatus::Fault;
   const SectionEntry* walked = walkedDataSection(run);
   for (const SectionEntry& section : run.sections.entries) {
-    if (section.role == ROLE_DATA) {
+    if (section.role == SectionRole::Data) {
       file.seek(section.start);
       if (&section != walked) {
         judgeDataLines(file, tabDelimited, slots, nullptr);
@@ -185,7 +185,7 @@ CheckStatus checkLineSyntax(RunContext& run, const std::string& wrapValue,
       scan.incrementAnswer = walks.increments.finish(scan.increments);
       walks.records.finish(run.source(), scan.countFinding, scan.lengthFinding);
       run.dataScan = std::move(scan);
-    } else if (section.role != ROLE_OTHER) {
+    } else if (section.role != SectionRole::Other) {
       judgeHeaderLines(file, run.dialect, tabDelimited, slots);
     }
   }

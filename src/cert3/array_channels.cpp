@@ -160,7 +160,7 @@ CheckStatus checkArrayChannels(RunContext& run, Slots& slots) {
     if (reader.open(run.source())) {
       // Findings of every definition section are kept, one section after the other.
       for (const SectionEntry& entry : run.sections.entries) {
-        if (entry.role == ROLE_DEFINITION &&
+        if (entry.role == SectionRole::Definition &&
             !checkSection(definitionLines(run, reader, entry), slots))
           skipped = true;
       }

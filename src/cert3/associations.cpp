@@ -22,7 +22,7 @@ MnemonicTable buildMnemonicTable(RunContext& run) {
   std::string_view line;
   for (const SectionEntry& entry : run.sections.entries) {
     // Column data lines carry no mnemonics; skipping them keeps the table to the header lines.
-    if (entry.role == ROLE_DATA) continue;
+    if (entry.role == SectionRole::Data) continue;
     reader.seek(entry.start);
     std::string section = entry.name;
     while (readSectionLine(reader, line)) {

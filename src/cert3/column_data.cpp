@@ -27,7 +27,7 @@ class ColumnDataCheck {
   void run() {
     if (!reader_.open(run_.source())) return;
     for (const SectionEntry& entry : run_.sections.entries) {
-      if (entry.role == ROLE_DATA) checkSection(entry);
+      if (entry.role == SectionRole::Data) checkSection(entry);
     }
     budget2_.closeInto(slots_[2]);
     budget3_.closeInto(slots_[3]);

@@ -58,7 +58,7 @@ class LineStructureCheck {
         // The index entry of this title is the one whose first line follows it.
         while (cursor < index.size() && index[cursor].start < reader.position()) ++cursor;
         if (cursor < index.size() && index[cursor].start == reader.position() &&
-            index[cursor].role == ROLE_DATA) {
+            index[cursor].role == SectionRole::Data) {
           scan_ = DataSectionScan{&index[cursor]};
         }
         continue;

@@ -18,7 +18,7 @@ std::int64_t firstDataLinePosition(RunContext& run) {
       return pos;
   }
   for (const SectionEntry& section : run.sections.entries)
-    if (section.role == ROLE_DATA) return section.start;
+    if (section.role == SectionRole::Data) return section.start;
   return 0;
 }
 

@@ -23,7 +23,7 @@ struct Title {
   std::string name;
   int index = -1;
   std::string association;
-  int role = ROLE_OTHER;
+  SectionRole role = SectionRole::Other;
 };
 
 std::vector<Title> titlesOf(const std::vector<SectionEntry>& sections) {
@@ -229,7 +229,7 @@ void duplicates2(const std::vector<Title>& titles, std::string& slot) {
 void dataTitleDelimiter(const std::vector<Title>& titles, std::string& slot) {
   slot.clear();
   for (const Title& t : titles) {
-    if (t.role != ROLE_DATA || iequals(t.text, "ASCII")) continue;
+    if (t.role != SectionRole::Data || iequals(t.text, "ASCII")) continue;
     if (t.association.empty() || t.association == " ") slot.append(t.text).append(CRLF);
   }
 }
@@ -237,7 +237,7 @@ void dataTitleDelimiter(const std::vector<Title>& titles, std::string& slot) {
 void matchingAssociation(const std::vector<Title>& titles, std::string& slot) {
   slot.clear();
   for (const Title& t : titles) {
-    if (t.role != ROLE_DATA) continue;
+    if (t.role != SectionRole::Data) continue;
     if (iequals(t.text, "ASCII")) {
       if (!t.association.empty() && !iequals(t.association, "Curve"))
         slot.append("Associated Column definition section must be Curve, not ")
@@ -278,12 +278,12 @@ void definitionHasData(const std::vector<Title>& titles, std::string& slot) {
   slot.clear();
   Counts dataBases;
   for (const Title& t : titles)
-    if (t.role == ROLE_DATA) ++dataBases[toUpper(baseName(t.text))];
+    if (t.role == SectionRole::Data) ++dataBases[toUpper(baseName(t.text))];
   for (const Title& t : titles) {
     if (!icontains(t.text, "_Definition")) continue;
     const auto it = dataBases.find(toUpper(baseName(t.text)));
     const int all = it == dataBases.end() ? 0 : it->second;
-    if (all - (t.role == ROLE_DATA ? 1 : 0) == 0) slot.append(t.text).append(CRLF);
+    if (all - (t.role == SectionRole::Data ? 1 : 0) == 0) slot.append(t.text).append(CRLF);
   }
 }
 
@@ -308,7 +308,7 @@ void setOrder(const std::vector<Title>& titles, std::string& slot) {
   const auto places = firstPlaces(titles);
   for (std::size_t k = 0; k < titles.size(); ++k) {
     const Title& data = titles[k];
-    if (data.role != ROLE_DATA) continue;
+    if (data.role != SectionRole::Data) continue;
     std::string definition = data.association;
     std::string parameter = std::string(baseName(data.text)) + "_Parameter";
     if (data.index != -1) parameter += "[" + toText(data.index) + "]";

@@ -8,13 +8,7 @@
 
 namespace zorvik {
 
-enum SectionRole : int {
-  ROLE_HEADER = 0,
-  ROLE_DATA = 1,
-  ROLE_DEFINITION = 2,
-  ROLE_PARAMETER = 3,
-  ROLE_OTHER = 4,
-};
+enum class SectionRole { Header, Data, Definition, Parameter, Other };
 
 // One entry of the section index. Sections are numbered 1..n in file order; section number n is
 // element n - 1 of the index.
@@ -23,7 +17,7 @@ struct SectionEntry {
   std::string association;  // first word after "|"; " " for a bare "|"; "" without one
   std::int64_t start = 0;   // 1-based position of the line after the title line
   int arrayIndex = -1;      // n of a trailing "[n]", -1 without brackets
-  int role = ROLE_OTHER;
+  SectionRole role = SectionRole::Other;
 };
 
 // A 3.0 section set sharing one name prefix ("Log" for Log_Parameter/Log_Definition/Log_Data).

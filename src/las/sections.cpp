@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <climits>
+#include <optional>
 #include <unordered_map>
 
 #include "base/text.h"
@@ -13,19 +14,20 @@ namespace zorvik {
 
 namespace {
 
-int roleOfName(std::string_view name, bool v3) {
+SectionRole roleOfName(std::string_view name, bool v3) {
   // Tested in this order, so "Well_Data" is data and not a header.
   if (iequals(name, "Version") || iequals(name, "Well") || iequals(name, "Other"))
-    return ROLE_HEADER;
+    return SectionRole::Header;
   // One-letter names are an older habit that 3.0 no longer allows.
-  if (!v3 && (iequals(name, "V") || iequals(name, "W") || iequals(name, "O"))) return ROLE_HEADER;
+  if (!v3 && (iequals(name, "V") || iequals(name, "W") || iequals(name, "O")))
+    return SectionRole::Header;
   if (iequals(name, "ASCII") || icontains(name, "_Data") || (!v3 && iequals(name, "A")))
-    return ROLE_DATA;
+    return SectionRole::Data;
   if (iequals(name, "Curve") || icontains(name, "_Definition") || (!v3 && iequals(name, "C")))
-    return ROLE_DEFINITION;
+    return SectionRole::Definition;
   if (iequals(name, "Parameter") || icontains(name, "_Parameter") || (!v3 && iequals(name, "P")))
-    return ROLE_PARAMETER;
-  return ROLE_OTHER;
+    return SectionRole::Parameter;
+  return SectionRole::Other;
 }
 
 // The places of the sections named `name` (compared ignoring case); both -1 when none.
@@ -58,9 +60,9 @@ void addToGroups(std::vector<SectionGroup>& groups,
   if (added) groups.push_back(SectionGroup{prefix, 0, 0, 0});
   SectionGroup* group = &groups[place->second];
   // A later section of the same role and prefix replaces an earlier one.
-  if (entry.role == ROLE_DATA) group->data = sectionNumber;
-  if (entry.role == ROLE_DEFINITION) group->definition = sectionNumber;
-  if (entry.role == ROLE_PARAMETER) group->parameter = sectionNumber;
+  if (entry.role == SectionRole::Data) group->data = sectionNumber;
+  if (entry.role == SectionRole::Definition) group->definition = sectionNumber;
+  if (entry.role == SectionRole::Parameter) group->parameter = sectionNumber;
 }
 
 }  // namespace
@@ -225,9 +227,10 @@ bool locateStandardSections(const LasFile& file, const Dialect& dialect, Section
   return true;
 }
 
-int sectionRoleOf(const SectionIndex& sections, std::string_view name) {
+std::optional<SectionRole> sectionRoleOf(const SectionIndex& sections, std::string_view name) {
   const int last = placesOf(sections, name).last;
-  return last < 0 ? -1 : sections.entries[static_cast<std::size_t>(last)].role;
+  if (last < 0) return std::nullopt;
+  return sections.entries[static_cast<std::size_t>(last)].role;
 }
 
 }  // namespace zorvik

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -37,7 +38,7 @@ std::string sectionText(const LasFile& file, const Dialect& dialect, SectionInde
 // Rebuilds the index and sets its data, curve and parameter names and `standardFound`. True once
 // the search has run.
 bool locateStandardSections(const LasFile& file, const Dialect& dialect, SectionIndex& index);
-// Role of the last section named `name`; -1 when none.
-int sectionRoleOf(const SectionIndex& index, std::string_view name);
+// Role of the last section named `name`; none when no section has that name.
+std::optional<SectionRole> sectionRoleOf(const SectionIndex& index, std::string_view name);
 
 }  // namespace zorvik

@@ -1,5 +1,7 @@
 #include "las/v3_line.h"
 
+#include <optional>
+
 #include "base/text.h"
 #include "las/header_line.h"
 #include "las/sections.h"
@@ -30,8 +32,8 @@ int parseDataLine(std::string_view t, std::string_view delimiter, V3LineDiagnost
 
 // The brace and format tests of a parameter data line; later findings in the brace slot replace
 // earlier ones, so the slot keeps the last fault found.
-void checkFormatPart(std::string_view line, int role, std::string_view delimiter,
-                     V3LineDiagnostics& d) {
+void checkFormatPart(std::string_view line, std::optional<SectionRole> role,
+                     std::string_view delimiter, V3LineDiagnostics& d) {
   std::size_t c = static_cast<std::size_t>(delimiterColon(line));
   std::size_t firstBar = firstPos(line, '|');
   std::size_t lastBar = lastPos(line, '|');
@@ -61,7 +63,7 @@ void checkFormatPart(std::string_view line, int role, std::string_view delimiter
     }
     // Header and parameter values are written in their own format; definitions describe the
     // data's format instead.
-    if ((role == ROLE_HEADER || role == ROLE_PARAMETER) &&
+    if ((role == SectionRole::Header || role == SectionRole::Parameter) &&
         valueMatchesFormat(value, format, delimiter) == 1)
       d[SLOT_BRACE] = "Bad Format: " + value + " doesn't look like this format: {" + format + "}";
   } else if (valueMatchesFormat(value, "F", delimiter) == 1 &&

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 #include <tuple>
 
@@ -86,7 +87,8 @@ TEST_F(Sections, IndexOfTitles) {
     ASSERT_TRUE(buildSectionIndex(LasFile(writeTitles(titles)), dialect_, sections_));
     std::string index;
     for (const SectionEntry& e : sections_.entries) {
-      index += (index.empty() ? "" : " ") + e.name + ":" + std::string_view("HDCPO").at(e.role);
+      index += (index.empty() ? "" : " ") + e.name + ":" +
+               std::string_view("HDCPO").at(static_cast<std::size_t>(e.role));
       if (!e.association.empty()) index += "|" + e.association;
     }
     EXPECT_EQ(index, expected);
@@ -137,11 +139,12 @@ TEST_F(Sections, NameLookupsIgnoreCase) {
   const LasFile file(
       writeTitles("~Version;~Well;~Tops_Parameter;~tops_parameter;~Log_Data[2];~Remarks"));
   ASSERT_TRUE(buildSectionIndex(file, dialect_, sections_));
-  const std::tuple<const char*, int, std::int64_t> rows[] = {{"TOPS_PARAMETER", ROLE_PARAMETER, 3},
-                                                             {"Log_data[2]", ROLE_DATA, 5},
-                                                             {"Log_Data", -1, 0},
-                                                             {"remarks", ROLE_OTHER, 6},
-                                                             {"Nowhere", -1, 0}};
+  const std::tuple<const char*, std::optional<SectionRole>, std::int64_t> rows[] = {
+      {"TOPS_PARAMETER", SectionRole::Parameter, 3},
+      {"Log_data[2]", SectionRole::Data, 5},
+      {"Log_Data", std::nullopt, 0},
+      {"remarks", SectionRole::Other, 6},
+      {"Nowhere", std::nullopt, 0}};
   const std::vector<SectionEntry> built = sections_.entries;
   for (bool byHand : {false, true}) {
     if (byHand) {
