@@ -77,7 +77,7 @@ void judgeDataLines(LineReader& file, bool tabDelimited, Slots& slots, DataWalks
 void judgeHeaderLine(std::string_view line, const Dialect& dialect, bool tabDelimited,
                      Slots& slots) {
   switch (classifyHeaderLine(line)) {
-    case LINE_OK:
+    case LineKind::Ok:
       if (!isValidMnemonic(fieldMnemonic(line), dialect))
         addFinding(slots[1], "Illegal mnemonic: ", line);
       if (!isLegalUnitText(fieldUnit(line), dialect)) addFinding(slots[2], "Illegal Unit: ", line);
@@ -87,16 +87,16 @@ void judgeHeaderLine(std::string_view line, const Dialect& dialect, bool tabDeli
         addFinding(slots[4], "Illegal Description: ", line);
       if (!tabDelimited && hasTab(line)) addFinding(slots[4], "Tab character(s) found.", line);
       break;
-    case LINE_NO_MNEMONIC:
+    case LineKind::NoMnemonic:
       addFinding(slots[1], "Missing Mnemonic", line);
       break;
-    case LINE_HAS_TAB:
+    case LineKind::HasTab:
       addFinding(slots[5], "Tab characters used on the line: ", replaceAll(line, "\t", "<Tab>"));
       break;
-    case LINE_SPACE_IN_MNEMONIC:
+    case LineKind::SpaceInMnemonic:
       addFinding(slots[1], "Mnemonic has embedded space(s)", line);
       break;
-    case LINE_NOT_DELIMITED:
+    case LineKind::NotDelimited:
       addFinding(slots[5], "Unknown or undetermined line type", line);
       break;
     default:  // blank, comment and title lines say nothing about syntax

@@ -74,7 +74,8 @@ std::vector<Element> definitionLines(RunContext& run, LineReader& reader,
   std::string_view line;
   reader.seek(section.start);
   while (readSectionLine(reader, line)) {
-    if (parseV3Line(line, name, run.dialect, run.sections, diagnostics) != V3_PDL) continue;
+    if (parseV3Line(line, name, run.dialect, run.sections, diagnostics) != V3LineType::Pdl)
+      continue;
     Element e;
     e.mnemonic = fieldMnemonic(line);
     e.unit = fieldUnit(line);

@@ -28,7 +28,8 @@ MnemonicTable buildMnemonicTable(RunContext& run) {
     while (readSectionLine(reader, line)) {
       // The table holds every line the 3.0 parser reads as a parameter line: header, parameter
       // and definition lines alike.
-      if (parseV3Line(line, section, run.dialect, run.sections, diagnostics) != V3_PDL) continue;
+      if (parseV3Line(line, section, run.dialect, run.sections, diagnostics) != V3LineType::Pdl)
+        continue;
       MnemonicRow row;
       row.mnemonic = fieldMnemonic(line);
       row.unit = fieldUnit(line);

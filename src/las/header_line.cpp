@@ -18,21 +18,21 @@ std::string_view between(std::string_view s, std::size_t from, std::size_t to) {
 
 }  // namespace
 
-int classifyHeaderLine(std::string_view line) {
+LineKind classifyHeaderLine(std::string_view line) {
   std::string_view t = trimView(line);
-  if (t.empty()) return LINE_BLANK;
-  if (t[0] == '#') return LINE_COMMENT;
-  if (t[0] == '~') return LINE_TITLE;
+  if (t.empty()) return LineKind::Blank;
+  if (t[0] == '#') return LineKind::Comment;
+  if (t[0] == '~') return LineKind::Title;
   std::size_t d = firstPos(t, '.');
   std::size_t c = lastPos(t, ':');
   if (d > 0 && c > 0 && d + 1 < c) {
     // A tab outranks the mnemonic faults: it is what the user has to fix first.
-    if (contains(t, '\t')) return LINE_HAS_TAB;
-    if (d == 1) return LINE_NO_MNEMONIC;
-    if (contains(fieldMnemonic(t), ' ')) return LINE_SPACE_IN_MNEMONIC;
-    return LINE_OK;
+    if (contains(t, '\t')) return LineKind::HasTab;
+    if (d == 1) return LineKind::NoMnemonic;
+    if (contains(fieldMnemonic(t), ' ')) return LineKind::SpaceInMnemonic;
+    return LineKind::Ok;
   }
-  return LINE_NOT_DELIMITED;
+  return LineKind::NotDelimited;
 }
 
 int delimiterColon(std::string_view line, int& bracePos) {
@@ -71,7 +71,7 @@ std::string fieldUnit(std::string_view line) {
 }
 
 std::string fieldValue(std::string_view line) {
-  if (classifyHeaderLine(line) != LINE_OK) return {};
+  if (classifyHeaderLine(line) != LineKind::Ok) return {};
   std::size_t c = static_cast<std::size_t>(delimiterColon(line));
   std::size_t d = firstPos(line, '.');
   std::string_view r = between(line, d, c);

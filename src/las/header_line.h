@@ -16,18 +16,19 @@
 
 namespace zorvik {
 
-enum LineKind : int {
-  LINE_OK = -1,
-  LINE_COMMENT = 1,
-  LINE_TITLE = 2,
-  LINE_BLANK = 3,
-  LINE_NO_MNEMONIC = 4,
-  LINE_HAS_TAB = 5,
-  LINE_SPACE_IN_MNEMONIC = 6,
-  LINE_NOT_DELIMITED = 7,
+// What a header line is: a well-formed "MNEM.UNIT VALUE : DESCRIPTION" line, or why it is not one.
+enum class LineKind {
+  Ok,
+  Comment,
+  Title,
+  Blank,
+  NoMnemonic,
+  HasTab,
+  SpaceInMnemonic,
+  NotDelimited,
 };
 
-int classifyHeaderLine(std::string_view line);
+LineKind classifyHeaderLine(std::string_view line);
 // Position of the colon that ends the value (the last colon outside a format); gives back the
 // position of the format's "{" in `bracePos` (0 when there is no format).
 int delimiterColon(std::string_view line, int& bracePos);

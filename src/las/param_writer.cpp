@@ -32,7 +32,7 @@ std::size_t trailingBlanks(std::string_view s) {
 
 bool replaceLineValue(std::string_view line, std::string_view newValue, std::string& out) {
   out.clear();
-  if (classifyHeaderLine(line) != LINE_OK) return false;
+  if (classifyHeaderLine(line) != LineKind::Ok) return false;
   std::size_t period = line.find('.');
   std::size_t colon = static_cast<std::size_t>(delimiterColon(line)) - 1;
   if (period == std::string_view::npos || colon <= period || colon >= line.size()) return false;

@@ -21,13 +21,13 @@ bool isPdlSection(std::string_view baseName) {
          icontains(baseName, "_Parameter");
 }
 
-int parseDataLine(std::string_view t, std::string_view delimiter, V3LineDiagnostics& d) {
+V3LineType parseDataLine(std::string_view t, std::string_view delimiter, V3LineDiagnostics& d) {
   d[SLOT_DATA].clear();
   if (!contains(t, delimiter)) {
     d[SLOT_LINE_TYPE] = V3_MSG_NO_DELIMITER;
-    return V3_BAD;
+    return V3LineType::Bad;
   }
-  return V3_COLUMN_DATA;
+  return V3LineType::ColumnData;
 }
 
 // The brace and format tests of a parameter data line; later findings in the brace slot replace
@@ -108,21 +108,21 @@ bool isLegalAssociationList(std::string_view line, std::string_view delimiter) {
   return true;
 }
 
-int parseV3Line(std::string_view line, std::string& currentSection, const Dialect& dialect,
-                const SectionIndex& sections, V3LineDiagnostics& d) {
+V3LineType parseV3Line(std::string_view line, std::string& currentSection, const Dialect& dialect,
+                       const SectionIndex& sections, V3LineDiagnostics& d) {
   for (std::string& slot : d) slot.clear();
   std::string_view t = trimView(line);
-  if (t.empty()) return V3_BLANK;
-  if (t[0] == '#') return V3_COMMENT;
+  if (t.empty()) return V3LineType::Blank;
+  if (t[0] == '#') return V3LineType::Comment;
 
   if (currentSection.empty()) {
     if (t[0] == '~') {
       std::string association;
       currentSection = parseTitleLine(t, association);
-      return V3_TITLE;
+      return V3LineType::Title;
     }
     d[SLOT_LINE_TYPE] = std::string(line);
-    return V3_BAD;
+    return V3LineType::Bad;
   }
 
   // Data lines come by the million: their path allocates nothing.
@@ -133,18 +133,18 @@ int parseV3Line(std::string_view line, std::string& currentSection, const Dialec
         icontains(currentSection, "_Data"))
       return parseDataLine(t, dialect.delimiter, d);
     d[SLOT_LINE_TYPE] = V3_MSG_UNDEFINED_SECTION;
-    return V3_BAD;
+    return V3LineType::Bad;
   }
 
   std::size_t period = firstPos(t, '.');
   std::size_t colon = firstPos(t, ':');
   if (period == 0 || colon == 0) {
     d[SLOT_LINE_TYPE] = V3_MSG_UNKNOWN_LINE;
-    return V3_BAD;
+    return V3LineType::Bad;
   }
   if (period + 1 >= colon) {
     d[SLOT_LINE_TYPE] = V3_MSG_UNRECOGNIZABLE;
-    return V3_BAD;
+    return V3LineType::Bad;
   }
 
   std::string mnemonic = fieldMnemonic(line);
@@ -161,7 +161,7 @@ int parseV3Line(std::string_view line, std::string& currentSection, const Dialec
 
   checkFormatPart(line, sectionRoleOf(sections, currentSection), dialect.delimiter, d);
   if (!isLegalAssociationList(line, dialect.delimiter)) d[SLOT_ASSOCIATION] = std::string(line);
-  return V3_PDL;
+  return V3LineType::Pdl;
 }
 
 }  // namespace zorvik

@@ -11,18 +11,11 @@
 
 namespace zorvik {
 
-enum V3LineType : int {
-  V3_PDL = 1,
-  V3_COMMENT = 2,
-  V3_TITLE = 3,
-  V3_COLUMN_DATA = 4,
-  V3_BLANK = 5,
-  V3_BAD = 6,
-};
+enum class V3LineType { Pdl, Comment, Title, ColumnData, Blank, Bad };
 
 // Slots 1..10 (slot 0 is never filled): 1 mnemonic, 2 unit, 3 value, 4 description, 5 bar
 // placement, 6 brace/value format, 7 format syntax, 8 association (whole line), 9 data lines,
-// 10 line-type message of a V3_BAD line.
+// 10 line-type message of a V3LineType::Bad line.
 using V3LineDiagnostics = std::array<std::string, 11>;
 
 // Slot numbers, for readers of the diagnostics.
@@ -63,8 +56,8 @@ inline constexpr const char* V3_MSG_BRACE_AFTER_BAR = "{ or } found after | deli
 // Types `line` of the section `currentSection` ("" before the first title; a title line seen
 // then sets it), in a file of `dialect` whose sections `sections` lists. Every slot is emptied
 // first; empty slots after the call mean no fault of that kind.
-int parseV3Line(std::string_view line, std::string& currentSection, const Dialect& dialect,
-                const SectionIndex& sections, V3LineDiagnostics& diagnostics);
+V3LineType parseV3Line(std::string_view line, std::string& currentSection, const Dialect& dialect,
+                       const SectionIndex& sections, V3LineDiagnostics& diagnostics);
 
 // Character tests of 3.0 fields (in other versions value and description always pass and the
 // unit test only forbids tab and ":").

@@ -15,7 +15,7 @@ float sniffVersion(const std::string& fileName) {
   while (reader.readLine(line)) {
     // "~A" anywhere on the line, a description included, means the data has begun.
     if (icontains(line, "~A") || icontains(line, "~Log_Data")) break;
-    if (istartsWith(trimLeftView(line), "VERS") && classifyHeaderLine(line) == LINE_OK)
+    if (istartsWith(trimLeftView(line), "VERS") && classifyHeaderLine(line) == LineKind::Ok)
       return static_cast<float>(leadingNumber(fieldValue(line)));
   }
   return 0.0f;

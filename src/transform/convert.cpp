@@ -52,7 +52,7 @@ bool isComment(std::string_view line) {
 }
 
 std::string mnemonicOf(std::string_view line) {
-  return classifyHeaderLine(line) == LINE_OK ? trim(fieldMnemonic(line)) : std::string();
+  return classifyHeaderLine(line) == LineKind::Ok ? trim(fieldMnemonic(line)) : std::string();
 }
 
 // What the header tells before the data: the version claimed and whether data is wrapped.
@@ -101,7 +101,7 @@ std::string asComment(std::string_view line) {
 // A 1.2 ~Well line keeps its information after the colon and a label before it; 3.0 wants the
 // information as the value. The index lines carry their numbers as values in 1.2 too.
 bool movesValue(std::string_view line, std::string& rewritten) {
-  if (classifyHeaderLine(line) != LINE_OK) return false;
+  if (classifyHeaderLine(line) != LineKind::Ok) return false;
   const std::string mnemonic = trim(fieldMnemonic(line));
   for (std::string_view index : {"STRT", "STOP", "STEP", "NULL"})
     if (iequals(mnemonic, index)) return false;

@@ -217,7 +217,7 @@ bool readFacts(const std::string& path, Facts& facts) {
       continue;
     }
     const std::string clean = replaceAll(line, "\t", " ");
-    const bool wellFormed = classifyHeaderLine(clean) == LINE_OK;
+    const bool wellFormed = classifyHeaderLine(clean) == LineKind::Ok;
     const std::string mnemonic = wellFormed ? toUpper(trim(fieldMnemonic(clean))) : std::string();
     if (mnemonic == "VERS" && facts.sniffedVersion.empty())
       facts.sniffedVersion = trim(fieldValue(clean));
@@ -349,7 +349,7 @@ class Repairer {
         changed_ = true;
       } else if (fixTabs && text.find('\t') != std::string::npos) {
         const CatalogueRow row =
-            classifyHeaderLine(text) == LINE_OK ? HEADER_DESCRIPTION : HEADER_LINE_TYPE;
+            classifyHeaderLine(text) == LineKind::Ok ? HEADER_DESCRIPTION : HEADER_LINE_TYPE;
         const std::string fixed = replaceAll(text, "\t", " ");
         record(ChangeKind::Changed, n, row, "tabs made blanks", text, fixed);
         text = fixed;

@@ -22,11 +22,11 @@ class HeaderLine : public ::testing::Test {
 // The mnemonic faults are left to the golden reports. A tab outranks a bad mnemonic; a period
 // needs something before the last colon; a leading tab is not trimmed, so "\t# x" is no comment.
 TEST_F(HeaderLine, ClassifiesInRuleOrder) {
-  const std::tuple<const char*, int> rows[] = {
-      {"     ", LINE_BLANK},           {"   # .:", LINE_COMMENT},
-      {"DEPT.M 1 : x : y", LINE_OK},   {"DE PT.M\t1 : x", LINE_HAS_TAB},
-      {"DEPT.:x", LINE_NOT_DELIMITED}, {"DEPT : x . y", LINE_NOT_DELIMITED},
-      {"\t# x", LINE_NOT_DELIMITED},
+  const std::tuple<const char*, LineKind> rows[] = {
+      {"     ", LineKind::Blank},          {"   # .:", LineKind::Comment},
+      {"DEPT.M 1 : x : y", LineKind::Ok},  {"DE PT.M\t1 : x", LineKind::HasTab},
+      {"DEPT.:x", LineKind::NotDelimited}, {"DEPT : x . y", LineKind::NotDelimited},
+      {"\t# x", LineKind::NotDelimited},
   };
   for (const auto& [line, kind] : rows) {
     SCOPED_TRACE(line);
