@@ -119,10 +119,17 @@ void CertifyWindow::attemptRepair() {
       if (lastRun_.isV3()) return std::nullopt;
       return failingRows(lastRun_.table2);
     });
-  } catch (const std::exception&) {
+  } catch (const std::exception& fault) {
     result.outcome = RepairOutcome::Failed;
+    result.error = fault.what();
   }
   if (result.outcome == RepairOutcome::Failed) {
+    // The box says only that something went wrong; the command log keeps which file and why
+    // (a read-only or hard-linked file, a full disk...).
+    std::string why = result.error.empty() ? std::string("an unexpected error") : result.error;
+    if (!why.ends_with('.')) why += '.';
+    writeCommandLog(CommandLogHeader{state.lasFile, state.logFile, state.statusLine},
+                    "Error: LAS file " + state.lasFile + " could not be repaired. " + why);
     message(QMessageBox::Critical, QStringLiteral("Error Attempting Repair"),
             QStringLiteral("An unexpected error happened during attempted repair."));
     return;

@@ -2,6 +2,7 @@
 // store and a program folder of its own, and a fake desktop answering its dialogs. Every test
 // also runs Qt's consistency tester on the result model through each fill, refill and clear.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -417,6 +418,31 @@ TEST_F(WindowTest, RepairAsksNamingTheFileThenCertifiesAndListsTheChanges) {
     }
   }
   EXPECT_TRUE(textPrompts.isEmpty());
+}
+
+// A repair that may not replace the file (here a second hard link would keep the old content)
+// leaves it as it was, shows the error box and says in the command log which file and why.
+TEST_F(WindowTest, ARefusedRepairLeavesTheFileAndSaysWhyInTheCommandLog) {
+  const std::string las = openFixture("lf_only_20.las");
+  const QString link = QDir(scratch.path()).filePath(QStringLiteral("second_name.las"));
+  ASSERT_EQ(::link(las.c_str(), link.toLocal8Bit().constData()), 0);
+  QFile original(QString::fromStdString(las));
+  ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+  const QByteArray before = original.readAll();
+  original.close();
+  messages.clear();
+  answers = {QMessageBox::Yes};
+  trigger("opt_M_3");
+  ASSERT_EQ(messages.size(), 2u);
+  EXPECT_EQ(messages[1].title, "Error Attempting Repair");
+  ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+  EXPECT_EQ(original.readAll(), before);
+  QFile log(QDir(scratch.path()).filePath(QStringLiteral("program/command.log")));
+  ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+  const QString entries = QString::fromLatin1(log.readAll());
+  EXPECT_TRUE(entries.contains(
+      QString::fromStdString("Error: LAS file " + las + " could not be repaired. ")))
+      << entries.toStdString();
 }
 
 TEST_F(WindowTest, RepairAsksForTheIndexUnitsOnlyWhenTheIndexChannelHasNone) {
