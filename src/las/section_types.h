@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -51,6 +52,9 @@ struct SectionIndex {
   // are looked up by a scan).
   std::unordered_map<std::string, NamePlaces> names;
   std::size_t namesCover = 0;
+  // Set once the index has been read from the file: whether with 3.0's rules for names. A run
+  // that has its index already, read under the same rules, does not read the file again for it.
+  std::optional<bool> readAsV3;
 };
 
 }  // namespace zorvik

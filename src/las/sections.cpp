@@ -109,6 +109,7 @@ bool buildSectionIndex(const LasFile& file, const Dialect& dialect, SectionIndex
   index.groups.clear();
   index.names.clear();
   index.namesCover = 0;
+  index.readAsV3.reset();
   LineReader reader;
   if (!reader.open(file)) return false;
   const bool v3 = dialect.isV3();
@@ -153,6 +154,7 @@ bool buildSectionIndex(const LasFile& file, const Dialect& dialect, SectionIndex
     places.last = static_cast<int>(i);
   }
   index.namesCover = index.entries.size();
+  index.readAsV3 = v3;
   return true;
 }
 
@@ -198,7 +200,7 @@ bool locateStandardSections(const LasFile& file, const Dialect& dialect, Section
   index.curveName.clear();
   index.paramName.clear();
   index.standardFound = false;
-  buildSectionIndex(file, dialect, index);
+  if (index.readAsV3 != dialect.isV3()) buildSectionIndex(file, dialect, index);
   const bool v3 = dialect.isV3();
 
   std::string curve, data, param;         // the standard names

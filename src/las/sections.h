@@ -35,8 +35,8 @@ inline constexpr std::int64_t SECTION_TEXT_LIMIT = 64 * 1024 * 1024;
 // "" when the section is missing or empty.
 std::string sectionText(const LasFile& file, const Dialect& dialect, SectionIndex& index,
                         std::string_view name);
-// Rebuilds the index and sets its data, curve and parameter names and `standardFound`. True once
-// the search has run.
+// Reads the index from the file unless it was read already under the dialect's rules, and sets
+// its data, curve and parameter names and `standardFound`. True once the search has run.
 bool locateStandardSections(const LasFile& file, const Dialect& dialect, SectionIndex& index);
 // Role of the last section named `name`; none when no section has that name.
 std::optional<SectionRole> sectionRoleOf(const SectionIndex& index, std::string_view name);

@@ -193,6 +193,8 @@ TEST_F(Sections, StandardSectionNames) {
                        sections_.standardFound),
               std::make_tuple(std::string(curve), std::string(data), std::string(param), found));
   }
+  // A missing file leaves no names behind, stale ones included.
+  sections_ = {};
   sections_.dataName = "stale";
   EXPECT_TRUE(locateStandardSections(LasFile(testing::scratchFolder() + "/missing.las"), dialect_,
                                      sections_));
