@@ -55,6 +55,7 @@ class LineStructureCheck {
         finishDataSection();
         std::string association;
         section = parseTitleLine(t, association);
+        kind_ = v3SectionKind(section, run_.sections);
         // The index entry of this title is the one whose first line follows it.
         while (cursor < index.size() && index[cursor].start < reader.position()) ++cursor;
         if (cursor < index.size() && index[cursor].start == reader.position() &&
@@ -74,7 +75,9 @@ class LineStructureCheck {
 
  private:
   void fileParserFindings(std::string_view line, std::string& section) {
-    parseV3Line(line, section, run_.dialect, run_.sections, diagnostics_);
+    if (parseV3Line(line, section, kind_, run_.dialect, run_.sections, diagnostics_) ==
+        V3LineType::Title)
+      kind_ = v3SectionKind(section, run_.sections);
     for (int k = 1; k <= 10; ++k) {
       if (k == 4 || diagnostics_[k].empty()) continue;
       std::string_view label = k < 4 ? kLabels[k] : std::string_view();
@@ -135,6 +138,7 @@ class LineStructureCheck {
   Slots& slots_;
   char delimiter_ = ' ';
   V3LineDiagnostics diagnostics_;
+  V3SectionKind kind_ = V3SectionKind::None;  // of the section being read
   std::array<FindingBudget, 12> budgets_;
   DataSectionScan scan_;
   std::string dataFindings_;  // item 10 findings of the data sections, listed after the parser's

@@ -108,32 +108,47 @@ bool isLegalAssociationList(std::string_view line, std::string_view delimiter) {
   return true;
 }
 
+V3SectionKind v3SectionKind(std::string_view currentSection, const SectionIndex& sections) {
+  if (currentSection.empty()) return V3SectionKind::None;
+  int index = 0;
+  if (isPdlSection(splitArrayIndexView(currentSection, index))) return V3SectionKind::Pdl;
+  const std::string& dataName = sections.dataName;
+  if ((!dataName.empty() && iequals(currentSection, dataName)) ||
+      icontains(currentSection, "_Data"))
+    return V3SectionKind::Data;
+  return V3SectionKind::Undefined;
+}
+
 V3LineType parseV3Line(std::string_view line, std::string& currentSection, const Dialect& dialect,
                        const SectionIndex& sections, V3LineDiagnostics& d) {
+  return parseV3Line(line, currentSection, v3SectionKind(currentSection, sections), dialect,
+                     sections, d);
+}
+
+V3LineType parseV3Line(std::string_view line, std::string& currentSection, V3SectionKind kind,
+                       const Dialect& dialect, const SectionIndex& sections, V3LineDiagnostics& d) {
   for (std::string& slot : d) slot.clear();
   std::string_view t = trimView(line);
   if (t.empty()) return V3LineType::Blank;
   if (t[0] == '#') return V3LineType::Comment;
 
-  if (currentSection.empty()) {
-    if (t[0] == '~') {
-      std::string association;
-      currentSection = parseTitleLine(t, association);
-      return V3LineType::Title;
-    }
-    d[SLOT_LINE_TYPE] = std::string(line);
-    return V3LineType::Bad;
-  }
-
-  // Data lines come by the million: their path allocates nothing.
-  int index = 0;
-  if (!isPdlSection(splitArrayIndexView(currentSection, index))) {
-    const std::string& dataName = sections.dataName;
-    if ((!dataName.empty() && iequals(currentSection, dataName)) ||
-        icontains(currentSection, "_Data"))
+  switch (kind) {
+    case V3SectionKind::None:
+      if (t[0] == '~') {
+        std::string association;
+        currentSection = parseTitleLine(t, association);
+        return V3LineType::Title;
+      }
+      d[SLOT_LINE_TYPE] = std::string(line);
+      return V3LineType::Bad;
+    case V3SectionKind::Data:
+      // Data lines come by the million: their path allocates nothing.
       return parseDataLine(t, dialect.delimiter, d);
-    d[SLOT_LINE_TYPE] = V3_MSG_UNDEFINED_SECTION;
-    return V3LineType::Bad;
+    case V3SectionKind::Undefined:
+      d[SLOT_LINE_TYPE] = V3_MSG_UNDEFINED_SECTION;
+      return V3LineType::Bad;
+    case V3SectionKind::Pdl:
+      break;
   }
 
   std::size_t period = firstPos(t, '.');

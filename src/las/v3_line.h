@@ -53,11 +53,26 @@ inline constexpr const char* V3_MSG_MISSING_BRACE = "Missing either { or }";
 inline constexpr const char* V3_MSG_BRACE_ORDER = "Wrong order of { and }";
 inline constexpr const char* V3_MSG_BRACE_AFTER_BAR = "{ or } found after | delimiter";
 
+// How the parser reads the lines of a section; it depends on the section's name alone.
+enum class V3SectionKind {
+  None,       // before the first title
+  Pdl,        // header, parameter and definition lines
+  Data,       // column data
+  Undefined,  // a section no rule knows
+};
+V3SectionKind v3SectionKind(std::string_view currentSection, const SectionIndex& sections);
+
 // Types `line` of the section `currentSection` ("" before the first title; a title line seen
 // then sets it), in a file of `dialect` whose sections `sections` lists. Every slot is emptied
 // first; empty slots after the call mean no fault of that kind.
 V3LineType parseV3Line(std::string_view line, std::string& currentSection, const Dialect& dialect,
                        const SectionIndex& sections, V3LineDiagnostics& diagnostics);
+// The same, for a caller reading a whole file, which decides the kind of `currentSection` once at
+// its title rather than once a line. A title line read before the first section sets
+// `currentSection`, whose kind the caller then decides anew.
+V3LineType parseV3Line(std::string_view line, std::string& currentSection, V3SectionKind kind,
+                       const Dialect& dialect, const SectionIndex& sections,
+                       V3LineDiagnostics& diagnostics);
 
 // Character tests of 3.0 fields (in other versions value and description always pass and the
 // unit test only forbids tab and ":").
