@@ -51,7 +51,9 @@ class ColumnDataCheck {
     std::string_view line;
     while (readSectionLine(reader_, line)) {
       if (isBlankOrComment(line)) continue;
-      splitDataItems(line, delimiter_, items_);
+      const bool counted =
+          delimiter_ != ' ' && splitCountingItems(line, delimiter_, items_, shapes_);
+      if (!counted) splitDataItems(line, delimiter_, items_);
       if (first) {
         first = false;
         expected = items_.size();
@@ -59,7 +61,7 @@ class ColumnDataCheck {
           reportChannelCount(definitionName, channels, data.name, expected);
         }
       }
-      checkFormats(data.name);
+      checkFormats(data.name, counted);
       // Each line is held to the count of the section's first data line, so a line that
       // differs from its neighbours is named even when the definitions disagree with all.
       if (items_.size() != expected) reportItemCount(line, data.name, expected);
@@ -82,10 +84,14 @@ class ColumnDataCheck {
     slot += kLineBreak;
   }
 
-  void checkFormats(const std::string& dataName) {
+  // `counted`: the items come with their shapes (the common line, read in one pass).
+  void checkFormats(const std::string& dataName, bool counted) {
+    const std::string_view delimiterText = run_.dialect.delimiter;
     std::size_t n = std::min(items_.size(), formats_.size());
     for (std::size_t k = 0; k < n; ++k) {
-      if (itemFitsFormat(items_[k], formats_[k], run_.dialect.delimiter)) continue;
+      const bool fits = counted ? itemFitsFormat(items_[k], shapes_[k], formats_[k], delimiterText)
+                                : itemFitsFormat(items_[k], formats_[k], delimiterText);
+      if (fits) continue;
       const ItemFormat& f = formats_[k];
       // The line is placed by its index value, the depth or time a user looks for.
       std::string_view place = items_[0];
@@ -127,6 +133,7 @@ class ColumnDataCheck {
   LineReader reader_;
   std::vector<ItemFormat> formats_;
   std::vector<std::string_view> items_;
+  std::vector<ItemShape> shapes_;
   FindingBudget budget2_;
   FindingBudget budget3_;
 };

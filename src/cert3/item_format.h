@@ -7,6 +7,7 @@
 // full test's. Nothing here can fail; the quick scan allocates nothing.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -33,6 +34,24 @@ ItemFormat parseItemFormat(std::string_view format);
 // delimited by `delimiter`.
 bool itemFitsFormatFully(std::string_view item, const ItemFormat& format,
                          std::string_view delimiter);
+
+// The kinds of bytes in an item, counted while its line is cut so that the quick scan need not
+// read the item again. The four counts share one 64-bit sum, 16 bits a kind, so that counting a
+// byte is one addition; items longer than kMaxCounted are not counted.
+struct ItemShape {
+  static constexpr std::uint64_t kDigit = 1;
+  static constexpr std::uint64_t kPoint = std::uint64_t{1} << 16;
+  static constexpr std::uint64_t kSign = std::uint64_t{1} << 32;   // '+' and '-'
+  static constexpr std::uint64_t kOther = std::uint64_t{1} << 48;  // blanks inside included
+  static constexpr std::size_t kMaxCounted = 0xFFFF;
+
+  std::uint64_t counts = 0;
+
+  std::uint64_t digits() const { return counts & 0xFFFF; }
+  std::uint64_t points() const { return (counts >> 16) & 0xFFFF; }
+  std::uint64_t signs() const { return (counts >> 32) & 0xFFFF; }
+  std::uint64_t others() const { return counts >> 48; }
+};
 
 namespace item_scan {
 
@@ -87,12 +106,42 @@ inline bool quickAccepts(std::string_view item, const ItemFormat& f) {
   return false;
 }
 
+// The same answers as quickAccepts, from the item and its counted bytes.
+inline bool quickAcceptsShape(std::string_view item, const ItemShape& shape, const ItemFormat& f) {
+  const bool plainNumber =
+      shape.others() == 0 && shape.digits() > 0 && shape.points() <= 1 &&
+      (shape.signs() == 0 || (shape.signs() == 1 && (item.front() == '+' || item.front() == '-')));
+  switch (f.quick) {
+    case ItemFormat::QUICK_NUMBER:
+      return plainNumber;
+    case ItemFormat::QUICK_FIXED:
+      return item.size() == f.width && plainNumber && shape.points() == 1 &&
+             item.size() - item.find('.') - 1 == f.decimals;
+    case ItemFormat::QUICK_DIGITS:
+      return !item.empty() && shape.digits() == item.size();
+    case ItemFormat::QUICK_DIGITS_SIZED:
+      return item.size() == f.width && shape.digits() == item.size();
+    case ItemFormat::QUICK_ANY:
+      return true;
+    case ItemFormat::QUICK_NONE:
+      break;
+  }
+  return false;
+}
+
 }  // namespace item_scan
 
 // True when the item conforms to the format (an empty or blank item always does).
 inline bool itemFitsFormat(std::string_view item, const ItemFormat& format,
                            std::string_view delimiter) {
   return item_scan::quickAccepts(item, format) || itemFitsFormatFully(item, format, delimiter);
+}
+
+// The same, for an item whose bytes were counted when its line was cut.
+inline bool itemFitsFormat(std::string_view item, const ItemShape& shape, const ItemFormat& format,
+                           std::string_view delimiter) {
+  return item_scan::quickAcceptsShape(item, shape, format) ||
+         itemFitsFormatFully(item, format, delimiter);
 }
 
 }  // namespace zorvik

@@ -69,6 +69,42 @@ TEST(ItemFormat, AgreesWithTheFullValueTest) {
   }
 }
 
+// The one-pass cut of the common line gives the items of the ordinary split, and the counted
+// bytes give the quick scan's own answer for every format.
+TEST(DataItems, CountingSplitAgreesWithTheSplitAndTheQuickScan) {
+  const char* lines[] = {
+      "1000.0000,42.6060,-999.25,+7,.5,5.",         " 1.0 , 2.0 ,3.0 ,",       ",,", "", "   ",
+      "12/05/1957,1E3,a b,1.2.3,--1,1-,-,.,007,-0", "12.3456, 1234.5678 ,x\t1"};
+  const char* formats[] = {"", "F", "F10.4", "F7.4", "F4.1", "I", "I3", "S", "E", "Q"};
+  for (char delimiter : {',', '\t'}) {
+    for (const char* text : lines) {
+      std::string line = text;
+      if (delimiter == '\t') std::replace(line.begin(), line.end(), ',', '\t');
+      SCOPED_TRACE("line [" + line + "]");
+      std::vector<std::string_view> items;
+      std::vector<ItemShape> shapes;
+      ASSERT_TRUE(splitCountingItems(line, delimiter, items, shapes));
+      ASSERT_EQ(std::vector<std::string>(items.begin(), items.end()),
+                splitToStrings(line, delimiter));
+      ASSERT_EQ(shapes.size(), items.size());
+      for (const char* format : formats) {
+        ItemFormat parsed = parseItemFormat(format);
+        for (std::size_t k = 0; k < items.size(); ++k) {
+          SCOPED_TRACE(std::string("item [") + std::string(items[k]) + "] format [" + format + "]");
+          EXPECT_EQ(item_scan::quickAcceptsShape(items[k], shapes[k], parsed),
+                    item_scan::quickAccepts(items[k], parsed));
+        }
+      }
+    }
+  }
+  // Quoted items, and items too long to count, are left to the ordinary split.
+  std::vector<std::string_view> items;
+  std::vector<ItemShape> shapes;
+  EXPECT_FALSE(splitCountingItems("1,\"a,b\",2", ',', items, shapes));
+  EXPECT_FALSE(splitCountingItems("1," + std::string(70000, '7'), ',', items, shapes));
+  EXPECT_TRUE(items.empty() && shapes.empty());
+}
+
 TEST(ArrayNames, ElementNumberAndBase) {
   struct Case {
     const char* mnemonic;
