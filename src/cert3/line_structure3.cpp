@@ -2,11 +2,14 @@
 
 #include <array>
 #include <exception>
+#include <optional>
 #include <string_view>
 
 #include "base/text.h"
 #include "cert3/finding_budget.h"
 #include "cert3/section_lines.h"
+#include "checks/data_lines.h"
+#include "checks/data_scan.h"
 #include "checks/run_context.h"
 #include "las/line_reader.h"
 #include "las/lines.h"
@@ -42,10 +45,12 @@ class LineStructureCheck {
   LineStructureCheck(RunContext& run, Slots& slots) : run_(run), slots_(slots) {}
 
   void run() {
+    run_.dataScan = {};
     LineReader reader;
     if (!reader.open(run_.source())) return;
     const auto& index = run_.sections.entries;
     delimiter_ = run_.dialect.delimiterChar();
+    walkedStart_ = firstDataLinePosition(run_);
     std::size_t cursor = 0;
     std::string section;
     std::string_view line;
@@ -53,6 +58,7 @@ class LineStructureCheck {
       std::string_view t = trimView(line);
       if (isTitleLine(t)) {
         finishDataSection();
+        finishIncrementWalk();
         std::string association;
         section = parseTitleLine(t, association);
         kind_ = v3SectionKind(section, run_.sections);
@@ -61,14 +67,17 @@ class LineStructureCheck {
         if (cursor < index.size() && index[cursor].start == reader.position() &&
             index[cursor].role == SectionRole::Data) {
           scan_ = DataSectionScan{&index[cursor]};
+          if (index[cursor].start == walkedStart_) walk_.emplace(1, delimiter_);
         }
         continue;
       }
       bool last = wasLastLine(reader);
       fileParserFindings(line, section);
       if (scan_.entry != nullptr) rereadDataLine(t, last);
+      if (walk_) walk_->feed(line);
     }
     finishDataSection();
+    finishIncrementWalk();
     for (int k : kItems) budgets_[k].closeInto(slots_[k]);
     slots_[10] += dataFindings_;
   }
@@ -125,6 +134,19 @@ class LineStructureCheck {
     dataFindings_ += kLineBreak;
   }
 
+  // The increments of the run's data section, walked on this pass, are kept for the index check,
+  // which takes them as long as the file stays as it was read and its records are single lines.
+  void finishIncrementWalk() {
+    if (!walk_) return;
+    DataScan scan;
+    stampScan(scan, run_.lasFile, walkedStart_);
+    scan.delimiter = delimiter_;
+    scan.linesPerRecord = 1;
+    scan.incrementAnswer = walk_->finish(scan.increments);
+    run_.dataScan = std::move(scan);
+    walk_.reset();
+  }
+
   void finishDataSection() {
     if (scan_.entry != nullptr && !scan_.dataSeen) {
       slots_[11] += kLineBreak;
@@ -141,6 +163,8 @@ class LineStructureCheck {
   V3SectionKind kind_ = V3SectionKind::None;  // of the section being read
   std::array<FindingBudget, 12> budgets_;
   DataSectionScan scan_;
+  std::int64_t walkedStart_ = 0;       // first line of the run's data section
+  std::optional<IncrementWalk> walk_;  // while that section is read
   std::string dataFindings_;  // item 10 findings of the data sections, listed after the parser's
 };
 

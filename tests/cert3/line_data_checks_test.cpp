@@ -10,6 +10,9 @@
 #include "cert3/associations.h"
 #include "cert3/column_data.h"
 #include "cert3/line_structure3.h"
+#include "checks/data_lines.h"
+#include "checks/data_scan.h"
+#include "checks/index_range.h"
 #include "checks/run_context.h"
 #include "checks/section_structure.h"
 #include "las/sections.h"
@@ -86,6 +89,36 @@ TEST(LineDataChecks, DataLineFindingsAreBounded) {
   EXPECT_EQ(countOf(slots[10], "No delimiters found in section Log_Data"), 1u);
   EXPECT_EQ(countOf(slots[10], "No Delimiters found in section Log_Data"), 1u);
   EXPECT_NE(slots[10].find("\r\n900 more findings of this kind not listed\r\n"), std::string::npos);
+}
+
+// The line check walks the data section's increments on its pass; the index check takes that
+// answer instead of reading the data again, so it must be the one its own walk gives.
+TEST(LineDataChecks, IncrementsWalkedOnTheLinePassMatchTheIndexChecksOwnWalk) {
+  testing::ScratchDir dir;
+  const std::vector<std::vector<std::string>> cases = {
+      {"1000.0,1", "1000.5,2", "1001.0,3"},             // constant
+      {"1000.0,1", "1000.5,2", "1000.7,3", "1001,4"},   // varies, and where
+      {"# c", "1000.0,1", "", "1000.5,2", "1001.0,3"},  // comments and blanks passed over
+      {"1000.0,1"},                                     // one record: no increment
+      {"1000.0,1", "x,2"},                              // an index that is no number
+      {"1000.0,1", "1000.5,2", "~Other", "7,7"},        // another section ends the walk
+  };
+  for (const auto& data : cases) {
+    SCOPED_TRACE(data.back());
+    const std::string path = dir.write("increments.las", lasText(data));
+    RunContext run;
+    run.lasFile = path;
+    run.dialect.version = 3.0f;
+    run.dialect.delimiter = ",";
+    locateStandardSections(LasFile(path), run.dialect, run.sections);
+    Slots slots;
+    checkLineStructure3(run, slots);
+    ASSERT_NE(keptScan(run.dataScan, path, firstDataLinePosition(run)), nullptr);
+    IncrementResult own;
+    EXPECT_EQ(run.dataScan.incrementAnswer, analyseIncrements(run, 1, own));
+    EXPECT_EQ(run.dataScan.increments.indexText, own.indexText);
+    EXPECT_EQ(run.dataScan.increments.increment, own.increment);
+  }
 }
 
 }  // namespace
