@@ -1,12 +1,11 @@
 #include "cert2/certify2.h"
 
-#include <cmath>
-
 #include "base/fault.h"
 #include "base/text.h"
 #include "cert2/ascii_checks.h"
 #include "cert2/line_syntax.h"
 #include "cert2/well_checks.h"
+#include "checks/after_check.h"
 #include "checks/catalogue.h"
 #include "checks/file_value.h"
 #include "checks/null_stop_repair.h"
@@ -27,10 +26,6 @@ enum class Next { Go, Stop, Cancel, Fail };
 // Raised inside the run when a check or a section load fails; ends it through the error path
 // with fault number 0 ("Error: Error in aaCertify2:").
 struct RunFailed {};
-
-void setBusy(const RunContext& run, bool busy) {
-  if (run.observer != nullptr) run.observer->setBusyPointer(busy);
-}
 
 Slots presetSlots(int undecidedRows) {
   Slots slots;
@@ -69,29 +64,19 @@ bool onlyCountryNoteRecorded(const CheckTable& table) {
 // Runs after every check: events, Escape, progress, recording and the stop rule.
 Next afterCheck(RunContext& run, int checkNumber, CheckStatus& checkResult, const Slots& slots) {
   CheckTable& table = run.table2;
-  RunObserver* observer = run.observer;
-
-  if (observer != nullptr) {
-    observer->processEvents();
-    if (observer->cancelRequested()) {
-      // A Yes leaves the request standing: the run driver serves it once the run has stopped.
-      if (observer->askYesNo("Please Confirm!",
-                             "Do you want to cancel the certification in progress?"))
-        return Next::Cancel;
-      // The recorder keeps nothing for a check once the user has answered "No", so one that
-      // failed just before the answer goes unrecorded.
+  switch (askCancelOnEscape(run)) {
+    case CancelAnswer::Yes:
+      return Next::Cancel;
+    case CancelAnswer::No:
+      // Nothing is kept of a check once the user has answered "No", so one that failed just
+      // before the answer goes unrecorded.
       checkResult = CheckStatus::Nothing;
-      observer->clearCancelRequest();
-    }
-    const int percent =
-        static_cast<int>(std::lround(100.0 * checkNumber / static_cast<double>(table.lastGroup())));
-    observer->setProgress(percent,
-                          "Doing check " + toText(checkNumber) + " (Press ESC to cancel...)");
+      break;
+    case CancelAnswer::NotAsked:
+      break;
   }
-
-  if (checkResult == CheckStatus::Failed || checkResult == CheckStatus::Fault) {
-    storeGroupResults(table, checkNumber, slots);
-  }
+  showCheckProgress(run, table, checkNumber);
+  keepFindings(table, checkNumber, checkResult, slots);
   if (checkResult == CheckStatus::Fault) return Next::Fail;
 
   if (!onlyCountryNoteRecorded(table) && anyFailure(table)) return Next::Stop;
@@ -187,18 +172,18 @@ RunStatus aaCertify2(RunContext& run) {
 }
 
 RunStatus aaCertify2With(RunContext& run, const Certify2Checks& checks) {
-  setBusy(run, true);
+  showBusy(run, true);
   Fault fault;
   try {
     switch (runChecks(run, checks)) {
       case Next::Go:
-        setBusy(run, false);
+        showBusy(run, false);
         return RunStatus::Completed;
       case Next::Stop:
         // The run driver restores the pointer after a stopped run.
         return RunStatus::Completed;
       case Next::Cancel:
-        setBusy(run, false);
+        showBusy(run, false);
         return RunStatus::Stopped;
       case Next::Fail:
         break;
@@ -210,12 +195,12 @@ RunStatus aaCertify2With(RunContext& run, const Certify2Checks& checks) {
 
   // Error path: an Escape still pending turns the fault into a cancel.
   if (run.observer != nullptr && run.observer->cancelRequested()) {
-    setBusy(run, false);
+    showBusy(run, false);
     return RunStatus::Stopped;
   }
   run.log(fault.number == 0 ? std::string("Error: Error in aaCertify2:")
                             : handlerMessage("aaCertify2", fault));
-  setBusy(run, false);
+  showBusy(run, false);
   return RunStatus::Fault;
 }
 

@@ -1,6 +1,5 @@
 #include "cert3/certify3.h"
 
-#include <cmath>
 #include <initializer_list>
 
 #include "base/fault.h"
@@ -10,6 +9,7 @@
 #include "cert3/column_data.h"
 #include "cert3/line_structure3.h"
 #include "cert3/well_checks3.h"
+#include "checks/after_check.h"
 #include "checks/catalogue.h"
 #include "checks/file_value.h"
 #include "checks/index_range.h"
@@ -38,14 +38,6 @@ struct HeaderTables {
   ParamTable parameter;
 };
 
-void setBusy(const RunContext& run, bool busy) {
-  if (run.observer != nullptr) run.observer->setBusyPointer(busy);
-}
-
-void letEventsRun(const RunContext& run) {
-  if (run.observer != nullptr) run.observer->processEvents();
-}
-
 // Every cell of the table but those of group 1, which the run driver fills before this driver
 // runs: a file that failed a file-level check keeps failing and stops after group 2.
 void clearAllButGroup1(CheckTable& table) {
@@ -68,37 +60,18 @@ void presetSlots(Slots& slots, std::initializer_list<int> undecided) {
   for (int k : undecided) slots[k] = " ";
 }
 
-void showProgress(const RunContext& run, int group) {
-  if (run.observer == nullptr) return;
-  const int percent =
-      static_cast<int>(std::lround(group * 100.0 / static_cast<double>(run.table3.lastGroup())));
-  run.observer->setProgress(percent, "Doing check " + toText(group) + " (Press ESC to cancel...)");
-  run.observer->processEvents();
-}
-
-// Asks whether to cancel when Escape was pressed; throws CancelRequested on Yes (the request
-// stays standing, which is how the trap tells a cancel from a fault).
-void pollEscape(const RunContext& run) {
-  RunObserver* observer = run.observer;
-  if (observer == nullptr) return;
-  observer->processEvents();
-  if (!observer->cancelRequested()) return;
-  if (observer->askYesNo("Please Confirm!", "Do you want to cancel the certification in progress?"))
-    throw CancelRequested{};
-  observer->clearCancelRequest();
-}
-
 // Progress, display marks, record, stop test, then the cancel question; in this order.
 Next afterCheck(RunContext& run, int group, CheckStatus code, const Slots& slots) {
   CheckTable& table = run.table3;
-  showProgress(run, group);
+  showCheckProgress(run, table, group);
+  letEventsRun(run);
   for (int r = 1; r <= table.lastRow(); ++r) table.at(r, COL_MARK, group) = " ";
-  if (code == CheckStatus::Failed || code == CheckStatus::Fault)
-    storeGroupResults(table, group, slots);
+  keepFindings(table, group, code, slots);
   if (code == CheckStatus::Fault) throw FaultError(Fault{});
   // Group 0 (the title line pass) never stops the run, whatever group 1 holds.
   if (group > 0 && anyFailure(table)) return Next::Stop;
-  pollEscape(run);
+  // A Yes leaves the request standing, which is how the trap tells a cancel from a fault.
+  if (askCancelOnEscape(run) == CancelAnswer::Yes) throw CancelRequested{};
   return Next::Continue;
 }
 
@@ -183,7 +156,7 @@ void runGroups(RunContext& run) {
 
 RunStatus aaCertify3(RunContext& run) {
   RunStatus result = RunStatus::Completed;
-  setBusy(run, true);
+  showBusy(run, true);
   try {
     clearAllButGroup1(run.table3);
     runGroups(run);
@@ -204,7 +177,7 @@ RunStatus aaCertify3(RunContext& run) {
       run.log(handlerMessage("aaCertify3", fault));
     }
   }
-  setBusy(run, false);
+  showBusy(run, false);
   return result;
 }
 
