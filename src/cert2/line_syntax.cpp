@@ -53,7 +53,7 @@ void judgeDataLines(LineReader& file, bool tabDelimited, Slots& slots, DataWalks
     LineBytes bytes = scanned ? scanLineBytes(line) : LineBytes{};
     if (resume == 0) {
       std::string_view t = trimView(line);
-      if (!t.empty() && t[0] == '~') {
+      if (isTitleLine(t)) {
         resume = file.position();
       } else {
         if (t.empty())

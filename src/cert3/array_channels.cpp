@@ -93,7 +93,7 @@ bool checkSection(const std::vector<Element>& lines, Slots& slots) {
   for (const Element& e : lines) {
     if (e.isArray && arrayElementNumber(e.mnemonic) == -1) {
       slots[1] += e.mnemonic;
-      slots[1] += kLineBreak;
+      slots[1] += CRLF;
       unnumbered = true;
     }
   }
@@ -120,13 +120,13 @@ bool checkSection(const std::vector<Element>& lines, Slots& slots) {
       group.unit = e.unit;
     } else if (group.closed) {
       slots[3] += e.mnemonic;
-      slots[3] += kLineBreak;
+      slots[3] += CRLF;
     }
     current = &group;
     // Each out-of-sequence element stands on a line of its own, as in the other array items.
     if (number != group.lastNumber + 1) {
       slots[2] += e.mnemonic;
-      slots[2] += kLineBreak;
+      slots[2] += CRLF;
     }
     group.lastNumber = number;
     if (!opened && spacingOf(e.format) != group.spacing) {
@@ -134,7 +134,7 @@ bool checkSection(const std::vector<Element>& lines, Slots& slots) {
       slots[4] += ", format was: {";
       slots[4] += e.format;
       slots[4] += "}";
-      slots[4] += kLineBreak;
+      slots[4] += CRLF;
     }
     // Units are compared exactly: "ms" and "MS" are different units.
     if (!opened && e.unit != group.unit) {
@@ -143,7 +143,7 @@ bool checkSection(const std::vector<Element>& lines, Slots& slots) {
       slots[5] += e.unit;
       slots[5] += ", first was: ";
       slots[5] += group.unit;
-      slots[5] += kLineBreak;
+      slots[5] += CRLF;
     }
   }
   return true;

@@ -56,13 +56,13 @@ CheckStatus checkAssociations(RunContext& run, Slots& slots) {
           slots[1] += "Association mnemonic ";
           slots[1] += trimView(entry);
           slots[1] += " not found in file. Line was :";
-          slots[1] += kLineBreak;
+          slots[1] += CRLF;
           slots[1] += rowAsLine(row);
-          slots[1] += kLineBreak;
+          slots[1] += CRLF;
         } else if (target == r) {
           slots[2] += "Line was like : ";
           slots[2] += rowAsLine(row);
-          slots[2] += kLineBreak;
+          slots[2] += CRLF;
         }
       }
     }
@@ -72,9 +72,9 @@ CheckStatus checkAssociations(RunContext& run, Slots& slots) {
     for (int r = 1; r <= table.size(); ++r) {
       if (!circular[static_cast<std::size_t>(r)]) continue;
       slots[2] += "Circular Association at line: ";
-      slots[2] += kLineBreak;
+      slots[2] += CRLF;
       slots[2] += rowAsLine(table.row(r));
-      slots[2] += kLineBreak;
+      slots[2] += CRLF;
     }
   } catch (const std::exception&) {
     return CheckStatus::Fault;

@@ -81,7 +81,7 @@ class ColumnDataCheck {
     slot += " has ";
     slot += toText(static_cast<long long>(found));
     slot += " delimited channels. ";
-    slot += kLineBreak;
+    slot += CRLF;
   }
 
   // `counted`: the items come with their shapes (the common line, read in one pass).
@@ -108,7 +108,7 @@ class ColumnDataCheck {
       slot += " wrong format {";
       slot += f.text;
       slot += "}";
-      slot += kLineBreak;
+      slot += CRLF;
     }
   }
 
@@ -122,9 +122,9 @@ class ColumnDataCheck {
     slot += " channels, found ";
     slot += toText(static_cast<long long>(items_.size()));
     slot += ". Line was";
-    slot += kLineBreak;
+    slot += CRLF;
     slot += line;
-    slot += kLineBreak;
+    slot += CRLF;
   }
 
   RunContext& run_;

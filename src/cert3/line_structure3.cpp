@@ -100,9 +100,9 @@ class LineStructureCheck {
       slot += opener;
       slot += section;
       slot += ")";
-      slot += kLineBreak;
+      slot += CRLF;
       slot += line;
-      slot += kLineBreak;
+      slot += CRLF;
     }
   }
 
@@ -131,7 +131,7 @@ class LineStructureCheck {
   void addDataFinding(std::string_view words, const std::string& title) {
     dataFindings_ += words;
     dataFindings_ += title;
-    dataFindings_ += kLineBreak;
+    dataFindings_ += CRLF;
   }
 
   // The increments of the run's data section, walked on this pass, are kept for the index check,
@@ -149,7 +149,7 @@ class LineStructureCheck {
 
   void finishDataSection() {
     if (scan_.entry != nullptr && !scan_.dataSeen) {
-      slots_[11] += kLineBreak;
+      slots_[11] += CRLF;
       slots_[11] += "No Data lines found in section ";
       slots_[11] += scan_.entry->name;
     }

@@ -5,22 +5,16 @@
 #include <cstdint>
 #include <string_view>
 
-#include "base/text.h"
 #include "las/line_reader.h"
 #include "las/lines.h"
 
 namespace zorvik {
 
-// The line break that ends every finding and every quoted line of a result text.
-inline constexpr std::string_view kLineBreak = "\r\n";
-
 // Reads the next line of the section into `line` (a view valid until the next read). False at
 // the end of the file or at the next title line (a line whose trimmed text begins with "~"),
 // which is then consumed.
 inline bool readSectionLine(LineReader& reader, std::string_view& line) {
-  if (!reader.readLine(line)) return false;
-  std::string_view t = trimView(line);
-  return t.empty() || t.front() != '~';
+  return reader.readLine(line) && !isTitleLine(line);
 }
 
 // True when the line last read was the last line of the file.

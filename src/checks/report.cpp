@@ -8,12 +8,13 @@
 #include "base/text.h"
 #include "checks/catalogue.h"
 #include "checks/run_context.h"
+#include "las/lines.h"
 
 namespace zorvik {
 
 namespace {
 
-constexpr const char* kEol = "\r\n";
+const std::string kEol(CRLF);  // the report is built by concatenation
 
 bool isKnownVersion(float version) {
   return version == 1.2f || version == 2.0f || version == 3.0f;

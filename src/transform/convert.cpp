@@ -6,6 +6,7 @@
 #include "base/file_writer.h"
 #include "base/text.h"
 #include "las/header_line.h"
+#include "las/lines.h"
 #include "las/param_writer.h"
 #include "transform/line_source.h"
 #include "transform/temp_files.h"
@@ -16,8 +17,6 @@ namespace zorvik {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::string_view CRLF = "\r\n";
 
 enum class Section { None, Version, Well, Parameter, Curve, Data, Other };
 
@@ -39,11 +38,6 @@ Section sectionOfTitle(std::string_view trimmed) {
     default:
       return Section::Other;
   }
-}
-
-bool isTitle(std::string_view line) {
-  const std::string_view t = trimLeftView(line);
-  return !t.empty() && t.front() == '~';
 }
 
 bool isComment(std::string_view line) {
@@ -68,7 +62,7 @@ HeaderFacts readHeaderFacts(const std::string& path) {
   std::string_view line, ending;
   Section section = Section::None;
   while (in.next(line, ending)) {
-    if (isTitle(line)) {
+    if (isTitleLine(line)) {
       section = sectionOfTitle(trimView(line));
       if (section == Section::Data) break;
       continue;
@@ -144,7 +138,7 @@ class Converter {
     bool afterData = false;
     std::string_view line, ending;
     while (in.next(line, ending)) {
-      if (isTitle(line)) {
+      if (isTitleLine(line)) {
         const Section next = sectionOfTitle(trimView(line));
         if (afterData || next == Section::Other) {
           note(ChangeKind::Moved, in.number(), "section kept as comments at the end of ~Well", line,
@@ -182,7 +176,7 @@ class Converter {
           if (isComment(line)) {
             note(ChangeKind::Moved, in.number(), "comment moved before the data title", line, "");
             header_.dataComments.emplace_back(line);
-          } else if (isTitle(line)) {
+          } else if (isTitleLine(line)) {
             afterData = true;
           }
           break;
@@ -339,7 +333,7 @@ class Converter {
     std::string record;
     std::string_view line, ending;
     while (in.next(line, ending)) {
-      if (isTitle(line)) break;
+      if (isTitleLine(line)) break;
       if (isComment(line)) continue;
       record.clear();
       std::size_t i = 0;

@@ -11,6 +11,7 @@
 #include "base/text.h"
 #include "checks/data_scan.h"
 #include "las/header_line.h"
+#include "las/lines.h"
 #include "las/param_writer.h"
 #include "transform/line_source.h"
 
@@ -18,7 +19,6 @@ namespace zorvik {
 
 namespace {
 
-constexpr std::string_view CRLF = "\r\n";
 constexpr std::string_view BOM = "\xEF\xBB\xBF";
 
 constexpr CatalogueRow LINE_ENDS{1, 4};
@@ -67,11 +67,6 @@ std::string headerLine(std::string_view mnemonic, std::string_view unit, std::st
   const std::size_t used = line.size() + value.size();
   line.append(used < 26 ? 26 - used : 1, ' ');
   return line + std::string(value) + " : " + std::string(description);
-}
-
-bool isTitle(std::string_view line) {
-  const std::string_view t = trimLeftView(line);
-  return !t.empty() && t.front() == '~';
 }
 
 char sectionLetter(std::string_view titleLine) {
@@ -196,19 +191,19 @@ bool readFacts(const std::string& path, Facts& facts) {
       line.remove_prefix(BOM.size());
     }
     if (line.find('\t') != std::string_view::npos) facts.tabs = true;
-    if (isTitle(line) && line.front() != '~') facts.indentedTitles = true;
+    if (isTitleLine(line) && line.front() != '~') facts.indentedTitles = true;
     if (ending != CRLF && !ending.empty()) {
       if (facts.firstBadEnding == 0) facts.firstBadEnding = n;
       ++facts.badEndings;
     }
     if (section == 'A') {
-      if (isTitle(line))
+      if (isTitleLine(line))
         section = '\0';
       else
         data.line(line);
       continue;
     }
-    if (isTitle(line)) {
+    if (isTitleLine(line)) {
       section = sectionLetter(line);
       if (facts.firstTitle == 0) facts.firstTitle = n;
       if (section == 'V' && facts.versionTitle == 0) facts.versionTitle = n;
@@ -334,7 +329,7 @@ class Repairer {
         text.erase(0, BOM.size());
         record(ChangeKind::Changed, n, LINE_ENDS, "byte-order mark removed", "", "");
       }
-      if (isTitle(text)) {
+      if (isTitleLine(text)) {
         section = sectionLetter(text);
         if (fixTitles && text.front() != '~') {
           const std::string fixed(trimLeftView(text));
