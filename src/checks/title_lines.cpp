@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 #include "base/text.h"
 #include "checks/check_table.h"
@@ -67,15 +68,16 @@ CheckStatus runPass(const LasFile& file, std::string& slot,
   try {
     LineReader reader;
     if (!reader.open(file)) return CheckStatus::Fault;
-    std::string block;
+    // Blocks are read from the file straight into one buffer, so each byte is copied once.
+    std::vector<char> block(static_cast<std::size_t>(BLOCK_BYTES));
     std::string_view line;
     std::int64_t blockStart = 1;
     std::int64_t lineStart = 1;
     bool endedWithCr = false;  // the previous block's last byte was a CR
     for (;;) {
-      reader.readRange(blockStart, BLOCK_BYTES, block);
-      if (block.empty()) break;
-      const std::string_view bytes = block;
+      const std::int64_t got = file.readAt(blockStart - 1, block.data(), block.size());
+      if (got <= 0) break;
+      const std::string_view bytes(block.data(), static_cast<std::size_t>(got));
       // A CR that ended the previous block ends a line here, with the LF when one follows.
       if (endedWithCr) lineStart = blockStart + (bytes.front() == '\n' ? 1 : 0);
       std::size_t from = 0;  // offset of a line start (or of the block) to search from
