@@ -1,13 +1,13 @@
 #include "checks/title_lines.h"
 
 #include <cstdint>
+#include <exception>
 #include <string_view>
-#include <vector>
 
 #include "base/text.h"
 #include "checks/check_table.h"
-#include "las/line_reader.h"
 #include "las/lines.h"
+#include "las/tilde_lines.h"
 
 namespace zorvik {
 namespace {
@@ -58,62 +58,12 @@ void judgeLine2(std::string_view line, std::string& slot) {
   }
 }
 
-// Big files hold tildes only in their first few lines, so the file is searched for tildes block
-// by block and only a line that holds one is read as a line. `lineStart` is the 1-based position
-// of the line that holds the first byte of the block in hand.
-constexpr std::int64_t BLOCK_BYTES = 256 * 1024;
-
 CheckStatus runPass(const LasFile& file, std::string& slot,
                     void (*judge)(std::string_view, std::string&)) {
   try {
-    LineReader reader;
-    if (!reader.open(file)) return CheckStatus::Fault;
-    // Blocks are read from the file straight into one buffer, so each byte is copied once.
-    std::vector<char> block(static_cast<std::size_t>(BLOCK_BYTES));
-    std::string_view line;
-    std::int64_t blockStart = 1;
-    std::int64_t lineStart = 1;
-    bool endedWithCr = false;  // the previous block's last byte was a CR
-    for (;;) {
-      const std::int64_t got = file.readAt(blockStart - 1, block.data(), block.size());
-      if (got <= 0) break;
-      const std::string_view bytes(block.data(), static_cast<std::size_t>(got));
-      // A CR that ended the previous block ends a line here, with the LF when one follows.
-      if (endedWithCr) lineStart = blockStart + (bytes.front() == '\n' ? 1 : 0);
-      std::size_t from = 0;  // offset of a line start (or of the block) to search from
-      std::int64_t next = blockStart + static_cast<std::int64_t>(bytes.size());
-      for (;;) {
-        const std::size_t tilde = bytes.find('~', from);
-        if (tilde == std::string_view::npos) break;
-        const std::size_t cr = bytes.substr(from, tilde - from).rfind('\r');
-        if (cr != std::string_view::npos) {
-          const std::size_t after = from + cr + 1;
-          lineStart = blockStart + static_cast<std::int64_t>(after + (bytes[after] == '\n'));
-        } else if (from > 0) {
-          lineStart = blockStart + static_cast<std::int64_t>(from);
-        }
-        reader.seek(lineStart);
-        reader.readLine(line);
-        judge(line, slot);
-        lineStart = reader.position();
-        if (lineStart >= next) break;
-        from = static_cast<std::size_t>(lineStart - blockStart);
-      }
-      if (lineStart >= next) {  // the line read ran past the block: go on after it
-        endedWithCr = false;
-        blockStart = lineStart;
-        continue;
-      }
-      const std::size_t cr = bytes.substr(from).rfind('\r');
-      endedWithCr = cr != std::string_view::npos && from + cr + 1 == bytes.size();
-      if (cr != std::string_view::npos && !endedWithCr) {
-        const std::size_t after = from + cr + 1;
-        lineStart = blockStart + static_cast<std::int64_t>(after + (bytes[after] == '\n'));
-      } else if (cr == std::string_view::npos && from > 0) {
-        lineStart = blockStart + static_cast<std::int64_t>(from);
-      }
-      blockStart = next;
-    }
+    const bool read = forEachTildeLine(
+        file, [&](std::string_view line, std::int64_t /*next*/) { judge(line, slot); });
+    if (!read) return CheckStatus::Fault;
     return slot.empty() ? CheckStatus::Passed : CheckStatus::Failed;
   } catch (const std::exception&) {
     return CheckStatus::Fault;

@@ -9,6 +9,7 @@
 #include "base/text.h"
 #include "las/line_reader.h"
 #include "las/lines.h"
+#include "las/tilde_lines.h"
 
 namespace zorvik {
 
@@ -110,24 +111,23 @@ bool buildSectionIndex(const LasFile& file, const Dialect& dialect, SectionIndex
   index.names.clear();
   index.namesCover = 0;
   index.readAsV3.reset();
-  LineReader reader;
-  if (!reader.open(file)) return false;
   const bool v3 = dialect.isV3();
 
-  std::string_view line;
+  // Every title holds a tilde: only the lines that hold one are read as lines.
   std::string association;
-  while (reader.readLine(line)) {
-    if (!isTitleLine(line)) continue;
+  const bool read = forEachTildeLine(file, [&](std::string_view line, std::int64_t next) {
+    if (!isTitleLine(line)) return;
     std::string name = parseTitleLine(line, association);
-    if (name.empty()) continue;
+    if (name.empty()) return;
     SectionEntry entry;
-    entry.start = reader.position();
+    entry.start = next;
     splitArrayIndex(name, entry.arrayIndex);
     if (!v3 && iequals(name, "ASCII") && trimView(association).empty()) association = "Curve";
     entry.name = std::move(name);
     entry.association = association;
     index.entries.push_back(std::move(entry));
-  }
+  });
+  if (!read) return false;
 
   if (!v3) {
     // A 1.2/2.0 data section always belongs to the file's (last) curve section.

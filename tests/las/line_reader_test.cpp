@@ -7,6 +7,7 @@
 #include <tuple>
 #include <vector>
 
+#include "las/tilde_lines.h"
 #include "support/scratch.h"
 
 namespace zorvik {
@@ -141,6 +142,37 @@ TEST(LineReader, ARangeReadFirstLeavesTheReaderAfterIt) {
     ASSERT_TRUE(reader.readLine(line));
     EXPECT_EQ(line, "~V");
   }
+}
+
+// The tilde search finds the lines a line-by-line reading finds holding a tilde, with the
+// position of the line after each, whatever block boundary or line end falls between.
+TEST(TildeLines, FindsWhatReadingEveryLineFinds) {
+  constexpr std::size_t kBlock = 256 * 1024;
+  const std::string fill(kBlock - 7, 'x');
+  const std::vector<std::string> contents = {
+      "~V\r\nVERS. 2.0 : v\r\n  ~W\r\nA ~ inside\r\n~A\r\n1 2\r\n",
+      "~V\rlone CR ends\r~W\nLF stays inside ~\r\n",
+      fill + "\r\n~Across the block boundary\r\n1\r\n",  // the title spans the boundary
+      fill + "12345\r\n~A\r\n",                          // the CR LF spans it
+      fill + "1234\r\r\n~A",                             // a CR ends the block, no end at all
+      "no tilde anywhere\r\n",
+  };
+  for (const std::string& content : contents) {
+    SCOPED_TRACE(content.size());
+    const std::string path = writeScratchFile("tilde.las", content);
+    std::vector<std::pair<std::string, std::int64_t>> expected;
+    LineReader reader(path);
+    std::string line;
+    while (reader.readLine(line))
+      if (line.find('~') != std::string::npos) expected.emplace_back(line, reader.position());
+    std::vector<std::pair<std::string, std::int64_t>> found;
+    LasFile file(path);
+    EXPECT_TRUE(forEachTildeLine(file, [&](std::string_view text, std::int64_t next) {
+      found.emplace_back(std::string(text), next);
+    }));
+    EXPECT_EQ(found, expected);
+  }
+  EXPECT_FALSE(forEachTildeLine(LasFile(), [](std::string_view, std::int64_t) {}));
 }
 
 TEST(LineReader, UnreadableInputsGiveNoLines) {
