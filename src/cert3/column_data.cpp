@@ -17,128 +17,113 @@
 
 namespace zorvik {
 
-namespace {
+ColumnDataScan::ColumnDataScan(RunContext& run)
+    : run_(run), delimiter_(run.dialect.delimiterChar()) {}
 
-class ColumnDataCheck {
- public:
-  ColumnDataCheck(RunContext& run, Slots& slots)
-      : run_(run), slots_(slots), delimiter_(run.dialect.delimiterChar()) {}
-
-  void run() {
-    if (!reader_.open(run_.source())) return;
-    for (const SectionEntry& entry : run_.sections.entries) {
-      if (entry.role == SectionRole::Data) checkSection(entry);
-    }
-    budget2_.closeInto(slots_[2]);
-    budget3_.closeInto(slots_[3]);
+void ColumnDataScan::beginSection(const SectionEntry& data) {
+  section_ = &data;
+  definitionName_ = definitionSectionFor(run_.sections, data);
+  ParamTable definitions;
+  if (!definitionName_.empty())
+    parseSectionTable(run_.source(), run_.dialect, run_.sections, definitions, definitionName_);
+  channels_ = definitions.lastEntry();
+  formats_.clear();
+  for (int k = 1; k <= channels_; ++k) {
+    formats_.push_back(parseItemFormat(definitions.at(FIELD_FORMAT, k)));
   }
+  first_ = true;
+  expected_ = 0;
+}
 
- private:
-  void checkSection(const SectionEntry& data) {
-    std::string definitionName = definitionSectionFor(run_.sections, data);
-    ParamTable definitions;
-    if (!definitionName.empty())
-      parseSectionTable(run_.source(), run_.dialect, run_.sections, definitions, definitionName);
-    const int channels = definitions.lastEntry();
-    formats_.clear();
-    for (int k = 1; k <= channels; ++k) {
-      formats_.push_back(parseItemFormat(definitions.at(FIELD_FORMAT, k)));
+void ColumnDataScan::takeLine(std::string_view line) {
+  if (isBlankOrComment(line)) return;
+  const std::string& dataName = section_->name;
+  const bool counted = delimiter_ != ' ' && splitCountingItems(line, delimiter_, items_, shapes_);
+  if (!counted) splitDataItems(line, delimiter_, items_);
+  if (first_) {
+    first_ = false;
+    expected_ = items_.size();
+    if (expected_ != static_cast<std::size_t>(channels_)) {
+      reportChannelCount(definitionName_, channels_, dataName, expected_);
     }
-
-    reader_.seek(data.start);
-    bool first = true;
-    std::size_t expected = 0;
-    std::string_view line;
-    while (readSectionLine(reader_, line)) {
-      if (isBlankOrComment(line)) continue;
-      const bool counted =
-          delimiter_ != ' ' && splitCountingItems(line, delimiter_, items_, shapes_);
-      if (!counted) splitDataItems(line, delimiter_, items_);
-      if (first) {
-        first = false;
-        expected = items_.size();
-        if (expected != static_cast<std::size_t>(channels)) {
-          reportChannelCount(definitionName, channels, data.name, expected);
-        }
-      }
-      checkFormats(data.name, counted);
-      // Each line is held to the count of the section's first data line, so a line that
-      // differs from its neighbours is named even when the definitions disagree with all.
-      if (items_.size() != expected) reportItemCount(line, data.name, expected);
-    }
-    if (first && channels != 0) reportChannelCount(definitionName, channels, data.name, 0);
   }
+  checkFormats(dataName, counted);
+  // Each line is held to the count of the section's first data line, so a line that differs from
+  // its neighbours is named even when the definitions disagree with all.
+  if (items_.size() != expected_) reportItemCount(line, dataName, expected_);
+}
 
-  void reportChannelCount(const std::string& definitionName, int channels,
-                          const std::string& dataName, std::size_t found) {
-    std::string& slot = slots_[1];
-    slot += "~";
-    slot += definitionName;
-    slot += " has ";
-    slot += toText(channels);
-    slot += " channel descriptions while ~";
+void ColumnDataScan::endSection() {
+  if (section_ != nullptr && first_ && channels_ != 0)
+    reportChannelCount(definitionName_, channels_, section_->name, 0);
+  section_ = nullptr;
+}
+
+Slots ColumnDataScan::finish() {
+  endSection();
+  budget2_.closeInto(slots_[2]);
+  budget3_.closeInto(slots_[3]);
+  return std::move(slots_);
+}
+
+void ColumnDataScan::reportChannelCount(const std::string& definitionName, int channels,
+                                        const std::string& dataName, std::size_t found) {
+  std::string& slot = slots_[1];
+  slot += "~";
+  slot += definitionName;
+  slot += " has ";
+  slot += toText(channels);
+  slot += " channel descriptions while ~";
+  slot += dataName;
+  slot += " has ";
+  slot += toText(static_cast<long long>(found));
+  slot += " delimited channels. ";
+  slot += CRLF;
+}
+
+// `counted`: the items come with their shapes (the common line, read in one pass).
+void ColumnDataScan::checkFormats(const std::string& dataName, bool counted) {
+  const std::string_view delimiterText = run_.dialect.delimiter;
+  std::size_t n = std::min(items_.size(), formats_.size());
+  for (std::size_t k = 0; k < n; ++k) {
+    const bool fits = counted ? itemFitsFormat(items_[k], shapes_[k], formats_[k], delimiterText)
+                              : itemFitsFormat(items_[k], formats_[k], delimiterText);
+    if (fits) continue;
+    const ItemFormat& f = formats_[k];
+    // The line is placed by its index value, the depth or time a user looks for.
+    std::string_view place = items_[0];
+    if (!budget3_.take(items_[k].size() + dataName.size() + place.size() + f.text.size() + 48)) {
+      continue;
+    }
+    std::string& slot = slots_[3];
+    slot += "Data column item (";
+    slot += items_[k];
+    slot += ") in ~";
     slot += dataName;
-    slot += " has ";
-    slot += toText(static_cast<long long>(found));
-    slot += " delimited channels. ";
+    slot += " @ ";
+    slot += place;
+    slot += " wrong format {";
+    slot += f.text;
+    slot += "}";
     slot += CRLF;
   }
+}
 
-  // `counted`: the items come with their shapes (the common line, read in one pass).
-  void checkFormats(const std::string& dataName, bool counted) {
-    const std::string_view delimiterText = run_.dialect.delimiter;
-    std::size_t n = std::min(items_.size(), formats_.size());
-    for (std::size_t k = 0; k < n; ++k) {
-      const bool fits = counted ? itemFitsFormat(items_[k], shapes_[k], formats_[k], delimiterText)
-                                : itemFitsFormat(items_[k], formats_[k], delimiterText);
-      if (fits) continue;
-      const ItemFormat& f = formats_[k];
-      // The line is placed by its index value, the depth or time a user looks for.
-      std::string_view place = items_[0];
-      if (!budget3_.take(items_[k].size() + dataName.size() + place.size() + f.text.size() + 48)) {
-        continue;
-      }
-      std::string& slot = slots_[3];
-      slot += "Data column item (";
-      slot += items_[k];
-      slot += ") in ~";
-      slot += dataName;
-      slot += " @ ";
-      slot += place;
-      slot += " wrong format {";
-      slot += f.text;
-      slot += "}";
-      slot += CRLF;
-    }
-  }
-
-  void reportItemCount(std::string_view line, const std::string& dataName, std::size_t expected) {
-    if (!budget2_.take(line.size() + dataName.size() + 60)) return;
-    std::string& slot = slots_[2];
-    slot += "Section ";
-    slot += dataName;
-    slot += ", expected ";
-    slot += toText(static_cast<long long>(expected));
-    slot += " channels, found ";
-    slot += toText(static_cast<long long>(items_.size()));
-    slot += ". Line was";
-    slot += CRLF;
-    slot += line;
-    slot += CRLF;
-  }
-
-  RunContext& run_;
-  Slots& slots_;
-  char delimiter_ = ' ';
-  LineReader reader_;
-  std::vector<ItemFormat> formats_;
-  std::vector<std::string_view> items_;
-  std::vector<ItemShape> shapes_;
-  FindingBudget budget2_;
-  FindingBudget budget3_;
-};
-
-}  // namespace
+void ColumnDataScan::reportItemCount(std::string_view line, const std::string& dataName,
+                                     std::size_t expected) {
+  if (!budget2_.take(line.size() + dataName.size() + 60)) return;
+  std::string& slot = slots_[2];
+  slot += "Section ";
+  slot += dataName;
+  slot += ", expected ";
+  slot += toText(static_cast<long long>(expected));
+  slot += " channels, found ";
+  slot += toText(static_cast<long long>(items_.size()));
+  slot += ". Line was";
+  slot += CRLF;
+  slot += line;
+  slot += CRLF;
+}
 
 std::string definitionSectionFor(const SectionIndex& sections, const SectionEntry& dataSection) {
   std::string named = trim(dataSection.association);
@@ -159,10 +144,29 @@ std::string definitionSectionFor(const SectionIndex& sections, const SectionEntr
 
 CheckStatus checkColumnData(RunContext& run, Slots& slots) {
   for (int k = 1; k <= 3; ++k) slots[k].clear();
-  try {
-    ColumnDataCheck(run, slots).run();
-  } catch (const std::exception&) {
-    return CheckStatus::Fault;
+  const DataScan* kept = keptScan(run.dataScan, run.lasFile, run.dataScan.start);
+  if (kept != nullptr && kept->columnData && kept->delimiter == run.dialect.delimiterChar()) {
+    for (int k = 1; k <= 3; ++k) slots[k] = (*kept->columnData)[k];
+  } else {
+    ColumnDataScan scan(run);
+    try {
+      LineReader reader;
+      if (reader.open(run.source())) {
+        for (const SectionEntry& entry : run.sections.entries) {
+          if (entry.role != SectionRole::Data) continue;
+          scan.beginSection(entry);
+          reader.seek(entry.start);
+          std::string_view line;
+          while (readSectionLine(reader, line)) scan.takeLine(line);
+          scan.endSection();
+        }
+      }
+      Slots found = scan.finish();
+      for (int k = 1; k <= 3; ++k) slots[k] = std::move(found[k]);
+    } catch (const std::exception&) {
+      for (int k = 1; k <= 3; ++k) slots[k] = scan.findingsSoFar()[k];
+      return CheckStatus::Fault;
+    }
   }
   for (int k = 1; k <= 3; ++k) {
     if (!slots[k].empty()) return CheckStatus::Failed;

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/text.h"
+#include "cert3/column_data.h"
 #include "cert3/finding_budget.h"
 #include "cert3/section_lines.h"
 #include "checks/data_lines.h"
@@ -51,6 +52,7 @@ class LineStructureCheck {
     const auto& index = run_.sections.entries;
     delimiter_ = run_.dialect.delimiterChar();
     walkedStart_ = firstDataLinePosition(run_);
+    columns_.emplace(run_);
     std::size_t cursor = 0;
     std::string section;
     std::string_view line;
@@ -59,6 +61,7 @@ class LineStructureCheck {
       if (isTitleLine(t)) {
         finishDataSection();
         finishIncrementWalk();
+        feedColumns([&] { columns_->endSection(); });
         std::string association;
         section = parseTitleLine(t, association);
         kind_ = v3SectionKind(section, run_.sections);
@@ -68,16 +71,21 @@ class LineStructureCheck {
             index[cursor].role == SectionRole::Data) {
           scan_ = DataSectionScan{&index[cursor]};
           if (index[cursor].start == walkedStart_) walk_.emplace(1, delimiter_);
+          feedColumns([&] { columns_->beginSection(index[cursor]); });
         }
         continue;
       }
       bool last = wasLastLine(reader);
       fileParserFindings(line, section);
-      if (scan_.entry != nullptr) rereadDataLine(t, last);
+      if (scan_.entry != nullptr) {
+        rereadDataLine(t, last);
+        feedColumns([&] { columns_->takeLine(line); });
+      }
       if (walk_) walk_->feed(line);
     }
     finishDataSection();
     finishIncrementWalk();
+    keepForLaterChecks();
     for (int k : kItems) budgets_[k].closeInto(slots_[k]);
     slots_[10] += dataFindings_;
   }
@@ -134,17 +142,39 @@ class LineStructureCheck {
     dataFindings_ += CRLF;
   }
 
-  // The increments of the run's data section, walked on this pass, are kept for the index check,
-  // which takes them as long as the file stays as it was read and its records are single lines.
+  // The increments of the run's data section, walked on this pass, and the column data check's
+  // findings are kept for the index and column checks, which take them as long as the file stays
+  // as it was read (and, for the increments, its records are single lines).
   void finishIncrementWalk() {
     if (!walk_) return;
+    increments_.emplace();
+    incrementAnswer_ = walk_->finish(*increments_);
+    walk_.reset();
+  }
+
+  void keepForLaterChecks() {
+    std::optional<Slots> columnFindings;
+    feedColumns([&] { columnFindings = columns_->finish(); });
     DataScan scan;
     stampScan(scan, run_.lasFile, walkedStart_);
     scan.delimiter = delimiter_;
     scan.linesPerRecord = 1;
-    scan.incrementAnswer = walk_->finish(scan.increments);
+    scan.incrementAnswer = incrementAnswer_;
+    if (increments_) scan.increments = *increments_;
+    scan.columnData = std::move(columnFindings);
     run_.dataScan = std::move(scan);
-    walk_.reset();
+  }
+
+  // The column checks ride on this pass but are not part of it: a fault in them only means the
+  // column check reads the data itself later, and meets the fault there.
+  template <class Step>
+  void feedColumns(Step step) {
+    if (!columns_) return;
+    try {
+      step();
+    } catch (const std::exception&) {
+      columns_.reset();
+    }
   }
 
   void finishDataSection() {
@@ -165,6 +195,9 @@ class LineStructureCheck {
   DataSectionScan scan_;
   std::int64_t walkedStart_ = 0;       // first line of the run's data section
   std::optional<IncrementWalk> walk_;  // while that section is read
+  std::optional<StepAnswer> incrementAnswer_;
+  std::optional<IncrementResult> increments_;
+  std::optional<ColumnDataScan> columns_;  // none once it faulted
   std::string dataFindings_;  // item 10 findings of the data sections, listed after the parser's
 };
 

@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "checks/check_table.h"
 #include "las/las_file.h"
 
 namespace zorvik {
@@ -109,10 +110,12 @@ struct DataScan {
   char delimiter = ' ';
   int linesPerRecord = 1;
   RecordRules rules;
-  StepAnswer incrementAnswer = StepAnswer::Unanalysable;
+  std::optional<StepAnswer> incrementAnswer;  // none when the pass did not walk the increments
   IncrementResult increments;
   std::string countFinding;
   std::string lengthFinding;
+  // 3.0: rows 1-3 of the column data check, when the pass made them.
+  std::optional<Slots> columnData;
 };
 
 bool sameRules(const RecordRules& a, const RecordRules& b);

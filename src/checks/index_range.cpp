@@ -224,9 +224,9 @@ CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::s
   IncrementResult increments;
   StepAnswer answer = StepAnswer::Unanalysable;
   const DataScan* kept = keptScan(run.dataScan, run.lasFile, firstDataLinePosition(run));
-  if (kept != nullptr && kept->linesPerRecord == linesPerRecord &&
+  if (kept != nullptr && kept->incrementAnswer && kept->linesPerRecord == linesPerRecord &&
       kept->delimiter == run.dialect.delimiterChar()) {
-    answer = kept->incrementAnswer;
+    answer = *kept->incrementAnswer;
     increments = kept->increments;
   } else {
     answer = analyseIncrements(run, linesPerRecord, increments);

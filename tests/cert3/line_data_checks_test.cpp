@@ -121,5 +121,46 @@ TEST(LineDataChecks, IncrementsWalkedOnTheLinePassMatchTheIndexChecksOwnWalk) {
   }
 }
 
+// The column checks ride on the line check's pass; what they keep must be what the column check
+// finds reading the data itself, and a changed file is read again.
+TEST(LineDataChecks, ColumnFindingsKeptOnTheLinePassMatchTheColumnChecksOwn) {
+  testing::ScratchDir dir;
+  const std::vector<std::vector<std::string>> cases = {
+      {"1000.0,1", "1000.5,2"},                            // nothing to find
+      {"1000.0,1", "1000.5,x", "1001.0,2,3", "# c", ""},   // format, count, comment, blank
+      {"1000.0,\"a,b\"", "1000.5, 2 "},                    // quoted and padded items
+      {},                                                  // no data lines
+      {"1000.0,1", "~Log_Data[2] | Log_Definition", "7"},  // a second data section
+  };
+  for (const auto& data : cases) {
+    SCOPED_TRACE(data.empty() ? "no data" : data.back());
+    const std::string path = dir.write("columns.las", lasText(data));
+    RunContext run;
+    run.lasFile = path;
+    run.dialect.version = 3.0f;
+    run.dialect.delimiter = ",";
+    locateStandardSections(LasFile(path), run.dialect, run.sections);
+    Slots lineSlots, kept, own;
+    checkLineStructure3(run, lineSlots);
+    ASSERT_TRUE(run.dataScan.columnData.has_value());
+    const CheckStatus keptStatus = checkColumnData(run, kept);
+    run.dataScan = {};
+    EXPECT_EQ(checkColumnData(run, own), keptStatus);
+    EXPECT_EQ(kept, own);
+  }
+  // A file changed after the pass: its kept findings are not used.
+  const std::string path = dir.write("changed.las", lasText({"1000.0,1"}));
+  RunContext run;
+  run.lasFile = path;
+  run.dialect.version = 3.0f;
+  run.dialect.delimiter = ",";
+  locateStandardSections(LasFile(path), run.dialect, run.sections);
+  Slots slots;
+  checkLineStructure3(run, slots);
+  dir.write("changed.las", lasText({"1000.0,1,2,3"}));
+  run.closeSource();
+  EXPECT_EQ(checkColumnData(run, slots), CheckStatus::Failed);
+}
+
 }  // namespace
 }  // namespace zorvik
