@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -75,9 +76,19 @@ TEST(DataItems, CountingSplitAgreesWithTheSplitAndTheQuickScan) {
   const char* lines[] = {
       "1000.0000,42.6060,-999.25,+7,.5,5.",         " 1.0 , 2.0 ,3.0 ,",       ",,", "", "   ",
       "12/05/1957,1E3,a b,1.2.3,--1,1-,-,.,007,-0", "12.3456, 1234.5678 ,x\t1"};
+  // And lines long enough to be read in blocks, made of the bytes that matter, delimiters and
+  // blanks falling on every offset of a block.
+  std::vector<std::string> generated(std::begin(lines), std::end(lines));
+  std::mt19937 random(20261124);
+  const std::string alphabet = "0123456789012345.+- ,,,,x";
+  for (int n = 0; n < 400; ++n) {
+    std::string line(random() % 70, ' ');
+    for (char& c : line) c = alphabet[random() % alphabet.size()];
+    generated.push_back(line);
+  }
   const char* formats[] = {"", "F", "F10.4", "F7.4", "F4.1", "I", "I3", "S", "E", "Q"};
   for (char delimiter : {',', '\t'}) {
-    for (const char* text : lines) {
+    for (const std::string& text : generated) {
       std::string line = text;
       if (delimiter == '\t') std::replace(line.begin(), line.end(), ',', '\t');
       SCOPED_TRACE("line [" + line + "]");
