@@ -30,7 +30,7 @@ bool LineReader::open(const LasFile& file) {
 
 void LineReader::reset() {
   length_ = file_->length();
-  buffer_.resize(BUFFER_BYTES);
+  if (!buffer_) buffer_ = std::make_unique_for_overwrite<char[]>(BUFFER_BYTES);
   bufStart_ = 0;
   bufPos_ = bufEnd_ = 0;
   lineStart_ = lineLength_ = 0;
@@ -48,14 +48,14 @@ void LineReader::close() {
 bool LineReader::fill() {
   if (file_ == nullptr) return false;
   if (bufPos_ > 0) {
-    std::memmove(buffer_.data(), buffer_.data() + bufPos_, bufEnd_ - bufPos_);
+    std::memmove(buffer_.get(), buffer_.get() + bufPos_, bufEnd_ - bufPos_);
     bufStart_ += static_cast<std::int64_t>(bufPos_);
     bufEnd_ -= bufPos_;
     bufPos_ = 0;
   }
-  if (bufEnd_ == buffer_.size()) return false;
+  if (bufEnd_ == BUFFER_BYTES) return false;
   std::int64_t n = file_->readAt(bufStart_ + static_cast<std::int64_t>(bufEnd_),
-                                 buffer_.data() + bufEnd_, buffer_.size() - bufEnd_);
+                                 buffer_.get() + bufEnd_, BUFFER_BYTES - bufEnd_);
   if (n <= 0) return false;
   bufEnd_ += static_cast<std::size_t>(n);
   return true;
@@ -79,10 +79,10 @@ bool LineReader::readLine(std::string_view& line) {
     std::size_t len = end - bufPos_;
     if (useScratch) {
       std::size_t room = MAX_LINE_BYTES - std::min(MAX_LINE_BYTES, scratch_.size());
-      scratch_.append(buffer_.data() + bufPos_, std::min(len, room));
+      scratch_.append(buffer_.get() + bufPos_, std::min(len, room));
       line = scratch_;
     } else {
-      line = std::string_view(buffer_.data() + bufPos_, len);
+      line = std::string_view(buffer_.get() + bufPos_, len);
     }
     lineLength_ = spilled + static_cast<std::int64_t>(len);
     lineTruncated_ = lineLength_ > static_cast<std::int64_t>(MAX_LINE_BYTES);
@@ -92,7 +92,7 @@ bool LineReader::readLine(std::string_view& line) {
 
   std::size_t scan = bufPos_;
   for (;;) {
-    const char* base = buffer_.data();
+    const char* base = buffer_.get();
     const void* hit = std::memchr(base + scan, '\r', bufEnd_ - scan);
     std::size_t cr = hit ? static_cast<std::size_t>(static_cast<const char*>(hit) - base) : bufEnd_;
     if (cr + 1 < bufEnd_) return finish(cr, base[cr + 1] == '\n' ? 2 : 1);
@@ -100,7 +100,7 @@ bool LineReader::readLine(std::string_view& line) {
     // Either no CR yet, or a CR in the last buffered byte whose follower decides between CR LF
     // and a lone CR: more bytes are needed. `resume` is where the search goes on afterwards.
     std::size_t resume = cr;
-    if (bufPos_ == 0 && bufEnd_ == buffer_.size()) {
+    if (bufPos_ == 0 && bufEnd_ == BUFFER_BYTES) {
       // The line fills the whole buffer: keep its head in scratch_ (up to the cap).
       if (!useScratch) scratch_.clear();
       useScratch = true;
@@ -156,7 +156,7 @@ void LineReader::readRange(std::int64_t pos, std::int64_t count, std::string& ou
   while (out.size() < wanted) {
     if (bufPos_ == bufEnd_ && !fill()) break;
     std::size_t take = std::min(wanted - out.size(), bufEnd_ - bufPos_);
-    out.append(buffer_.data() + bufPos_, take);
+    out.append(buffer_.get() + bufPos_, take);
     bufPos_ += take;
   }
 }

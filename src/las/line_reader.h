@@ -17,6 +17,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -79,7 +80,9 @@ class LineReader {
   std::int64_t lineLength_ = 0;
   bool lineTruncated_ = false;
   bool eof_ = false;
-  std::string buffer_;
+  // Allocated at the first open and never cleared: readers of small sections are made by the
+  // thousand, and zeroing 64 KB for each would cost more than their reading.
+  std::unique_ptr<char[]> buffer_;
   std::string scratch_;  // lines longer than the buffer are assembled here
   std::size_t bufPos_ = 0;
   std::size_t bufEnd_ = 0;
