@@ -111,9 +111,9 @@ inline bool quickAcceptsShape(std::string_view item, const ItemShape& shape, con
   // A plain number: no other byte, at most one point and one sign (all tested at once on the
   // packed counts), at least one digit, and a sign only in front.
   constexpr std::uint64_t kMoreThanOnePointOrSignOrAnyOther = 0xFFFF'FFFE'FFFE'0000;
-  const bool plainNumber =
-      (shape.counts & kMoreThanOnePointOrSignOrAnyOther) == 0 && shape.digits() > 0 &&
-      (shape.signs() == 0 || item.front() == '+' || item.front() == '-');
+  const bool plainNumber = (shape.counts & kMoreThanOnePointOrSignOrAnyOther) == 0 &&
+                           shape.digits() > 0 &&
+                           (shape.signs() == 0 || item.front() == '+' || item.front() == '-');
   switch (f.quick) {
     case ItemFormat::QUICK_NUMBER:
       return plainNumber;
