@@ -2,6 +2,10 @@
 // findings, line length and record boundaries; and group 4's pass feeding groups 6 and 7.
 #include <gtest/gtest.h>
 
+#include <random>
+#include <string>
+#include <vector>
+
 #include "base/text.h"
 #include "cert2/ascii_checks.h"
 #include "cert2/las_parts.h"
@@ -109,6 +113,14 @@ TEST(ScanLineBytes, AgreesWithTheWordCount) {
       lines.push_back(std::string(20, 'x'));
       lines.back()[at] = mark;
     }
+  }
+  // Lines of every length up to a few blocks, with blanks, tildes and tabs anywhere.
+  std::mt19937 random(20261124);
+  const std::string alphabet = "12.5   ~\tx";
+  for (int n = 0; n < 600; ++n) {
+    std::string line(random() % 70, ' ');
+    for (char& c : line) c = alphabet[random() % (n % 2 == 0 ? 5 : alphabet.size())];
+    lines.push_back(line);
   }
   for (const std::string& line : lines) {
     SCOPED_TRACE("[" + line + "]");
