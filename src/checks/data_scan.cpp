@@ -1,8 +1,6 @@
 #include "checks/data_scan.h"
 
 #include <algorithm>
-#include <array>
-#include <bit>
 #include <cstring>
 #include <filesystem>
 #include <system_error>
@@ -38,10 +36,6 @@ std::string recordText(const LasFile& source, std::int64_t start, int lines) {
   return std::string(trimView(record));
 }
 
-}  // namespace
-
-namespace {
-
 // The byte tests one at a time: short lines, and machines without SSE2.
 LineBytes scanLineBytesOneByOne(std::string_view line) {
   const auto* p = reinterpret_cast<const unsigned char*>(line.data());
@@ -61,54 +55,66 @@ LineBytes scanLineBytesOneByOne(std::string_view line) {
   return bytes;
 }
 
-#if defined(__SSE2__)
-// Bits set in a 16-bit mask, by table: the baseline x86-64 has no instruction for it.
-constexpr std::array<std::uint8_t, 256> kBitsSet = [] {
-  std::array<std::uint8_t, 256> bits{};
-  for (unsigned i = 0; i < 256; ++i) bits[i] = static_cast<std::uint8_t>(std::popcount(i));
-  return bits;
-}();
-
-int bitsSet(unsigned mask) {
-  return kBitsSet[mask & 0xFF] + kBitsSet[(mask >> 8) & 0xFF];
-}
-#endif
-
 }  // namespace
 
 LineBytes scanLineBytes(std::string_view line) {
 #if defined(__SSE2__)
   // This sees every byte of the data, sixteen at a time. Each block is compared with the same
-  // bytes one place earlier (a second load, one byte back), so a blank-to-value step is one bit
-  // of a mask; the line's last, partial block is read as its last sixteen bytes, the bits of the
-  // bytes already seen cleared.
+  // bytes one place earlier (a second load, one byte back), so a blank-to-value step is one byte
+  // of 0xFF; steps are summed in the lanes of a counter, emptied before a lane could overflow.
+  // The line's last, partial block is read as its last sixteen bytes, the bytes already seen
+  // masked off.
   const std::size_t n = line.size();
   if (n <= 16) return scanLineBytesOneByOne(line);
   const char* p = line.data();
   const __m128i blank = _mm_set1_epi8(' ');
-  const __m128i tildes = _mm_set1_epi8('~');
-  const __m128i tabs = _mm_set1_epi8('\t');
+  const __m128i tilde = _mm_set1_epi8('~');
+  const __m128i tab = _mm_set1_epi8('\t');
+  const __m128i zero = _mm_setzero_si128();
   LineBytes bytes;
   bytes.values = p[0] != ' ';
-  unsigned tildeBits = p[0] == '~' ? 1u : 0u;  // bit 0: the first byte, which no block holds
-  unsigned tabBits = p[0] == '\t' ? 1u : 0u;
-  for (std::size_t at = 1; at < n; at += 16) {
-    std::size_t from = at;
-    unsigned fresh = 0xFFFF;  // the bytes of this block not seen yet
-    if (at + 16 > n) {
-      from = n - 16;
-      fresh = (0xFFFFu << (at - from)) & 0xFFFF;
-    }
+  bytes.tilde = p[0] == '~';
+  bytes.tab = p[0] == '\t';
+  __m128i steps = zero;  // per lane: steps counted since the last emptying
+  __m128i tildes = zero;
+  __m128i tabs = zero;
+  int blocks = 0;
+  const auto emptySteps = [&] {
+    const __m128i sums = _mm_sad_epu8(steps, zero);  // two 64-bit sums of eight lanes each
+    bytes.values += _mm_cvtsi128_si32(sums) + _mm_cvtsi128_si32(_mm_srli_si128(sums, 8));
+    steps = zero;
+    blocks = 0;
+  };
+  std::size_t at = 1;
+  for (; at + 16 <= n; at += 16) {
+    const __m128i here = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + at));
+    const __m128i before = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + at - 1));
+    // A step reads 0xFF, so subtracting it adds one.
+    steps = _mm_sub_epi8(
+        steps, _mm_andnot_si128(_mm_cmpeq_epi8(here, blank), _mm_cmpeq_epi8(before, blank)));
+    tildes = _mm_or_si128(tildes, _mm_cmpeq_epi8(here, tilde));
+    tabs = _mm_or_si128(tabs, _mm_cmpeq_epi8(here, tab));
+    if (++blocks == 255) emptySteps();
+  }
+  if (at < n) {
+    const std::size_t from = n - 16;
+    // 0xFF in the lanes of bytes not seen yet.
+    alignas(16) static constexpr char kLaneIndex[16] = {0, 1, 2,  3,  4,  5,  6,  7,
+                                                        8, 9, 10, 11, 12, 13, 14, 15};
+    const __m128i fresh =
+        _mm_cmpgt_epi8(_mm_load_si128(reinterpret_cast<const __m128i*>(kLaneIndex)),
+                       _mm_set1_epi8(static_cast<char>(at - from - 1)));
     const __m128i here = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + from));
     const __m128i before = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + from - 1));
-    const __m128i steps =
-        _mm_andnot_si128(_mm_cmpeq_epi8(here, blank), _mm_cmpeq_epi8(before, blank));
-    bytes.values += bitsSet(static_cast<unsigned>(_mm_movemask_epi8(steps)) & fresh);
-    tildeBits |= static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(here, tildes))) & fresh;
-    tabBits |= static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(here, tabs))) & fresh;
+    steps =
+        _mm_sub_epi8(steps, _mm_and_si128(fresh, _mm_andnot_si128(_mm_cmpeq_epi8(here, blank),
+                                                                  _mm_cmpeq_epi8(before, blank))));
+    tildes = _mm_or_si128(tildes, _mm_and_si128(fresh, _mm_cmpeq_epi8(here, tilde)));
+    tabs = _mm_or_si128(tabs, _mm_and_si128(fresh, _mm_cmpeq_epi8(here, tab)));
   }
-  bytes.tilde = tildeBits != 0;
-  bytes.tab = tabBits != 0;
+  emptySteps();
+  bytes.tilde = bytes.tilde || _mm_movemask_epi8(tildes) != 0;
+  bytes.tab = bytes.tab || _mm_movemask_epi8(tabs) != 0;
   return bytes;
 #else
   return scanLineBytesOneByOne(line);

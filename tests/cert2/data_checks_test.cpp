@@ -114,6 +114,10 @@ TEST(ScanLineBytes, AgreesWithTheWordCount) {
       lines.back()[at] = mark;
     }
   }
+  // A line of more blocks than the counters of a block's bytes hold steps for.
+  std::string many;
+  for (int i = 0; i < 3000; ++i) many += "1 ";
+  lines.push_back(many);
   // Lines of every length up to a few blocks, with blanks, tildes and tabs anywhere.
   std::mt19937 random(20261124);
   const std::string alphabet = "12.5   ~\tx";
