@@ -32,13 +32,18 @@ std::string lasText(const std::vector<std::string>& data) {
   return text;
 }
 
-// Runs `check` as the driver does, every slot preset to " ".
-Slots runOn(const std::string& path, const Check& check, CheckStatus& result) {
-  RunContext run;
+// A run of the comma-delimited 3.0 file at `path`, its sections located.
+void prepare(RunContext& run, const std::string& path) {
   run.lasFile = path;
   run.dialect.version = 3.0f;
   run.dialect.delimiter = ",";
   locateStandardSections(LasFile(path), run.dialect, run.sections);
+}
+
+// Runs `check` as the driver does, every slot preset to " ".
+Slots runOn(const std::string& path, const Check& check, CheckStatus& result) {
+  RunContext run;
+  prepare(run, path);
   Slots slots;
   slots.fill(" ");
   result = check(run, slots);
@@ -107,10 +112,7 @@ TEST(LineDataChecks, IncrementsWalkedOnTheLinePassMatchTheIndexChecksOwnWalk) {
     SCOPED_TRACE(data.back());
     const std::string path = dir.write("increments.las", lasText(data));
     RunContext run;
-    run.lasFile = path;
-    run.dialect.version = 3.0f;
-    run.dialect.delimiter = ",";
-    locateStandardSections(LasFile(path), run.dialect, run.sections);
+    prepare(run, path);
     Slots slots;
     checkLineStructure3(run, slots);
     ASSERT_NE(keptScan(run.dataScan, path, firstDataLinePosition(run)), nullptr);
@@ -136,10 +138,7 @@ TEST(LineDataChecks, ColumnFindingsKeptOnTheLinePassMatchTheColumnChecksOwn) {
     SCOPED_TRACE(data.empty() ? "no data" : data.back());
     const std::string path = dir.write("columns.las", lasText(data));
     RunContext run;
-    run.lasFile = path;
-    run.dialect.version = 3.0f;
-    run.dialect.delimiter = ",";
-    locateStandardSections(LasFile(path), run.dialect, run.sections);
+    prepare(run, path);
     Slots lineSlots, kept, own;
     checkLineStructure3(run, lineSlots);
     ASSERT_TRUE(run.dataScan.columnData.has_value());
@@ -151,10 +150,7 @@ TEST(LineDataChecks, ColumnFindingsKeptOnTheLinePassMatchTheColumnChecksOwn) {
   // A file changed after the pass: its kept findings are not used.
   const std::string path = dir.write("changed.las", lasText({"1000.0,1"}));
   RunContext run;
-  run.lasFile = path;
-  run.dialect.version = 3.0f;
-  run.dialect.delimiter = ",";
-  locateStandardSections(LasFile(path), run.dialect, run.sections);
+  prepare(run, path);
   Slots slots;
   checkLineStructure3(run, slots);
   dir.write("changed.las", lasText({"1000.0,1,2,3"}));
