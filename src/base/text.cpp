@@ -6,21 +6,6 @@
 
 namespace zorvik {
 
-std::string_view trimLeftView(std::string_view s) {
-  std::size_t b = 0;
-  while (b < s.size() && s[b] == ' ') ++b;
-  return s.substr(b);
-}
-
-std::string_view trimRightView(std::string_view s) {
-  std::size_t e = s.size();
-  while (e > 0 && s[e - 1] == ' ') --e;
-  return s.substr(0, e);
-}
-
-std::string_view trimView(std::string_view s) {
-  return trimRightView(trimLeftView(s));
-}
 std::string trim(std::string_view s) {
   return std::string(trimView(s));
 }

@@ -11,11 +11,22 @@
 
 namespace zorvik {
 
-// Removes leading and trailing space characters (not tabs).
-std::string_view trimView(std::string_view s);
+// Remove leading and trailing space characters (not tabs); inline, as they run on every line of
+// the data.
+inline std::string_view trimLeftView(std::string_view s) {
+  std::size_t b = 0;
+  while (b < s.size() && s[b] == ' ') ++b;
+  return s.substr(b);
+}
+inline std::string_view trimRightView(std::string_view s) {
+  std::size_t e = s.size();
+  while (e > 0 && s[e - 1] == ' ') --e;
+  return s.substr(0, e);
+}
+inline std::string_view trimView(std::string_view s) {
+  return trimRightView(trimLeftView(s));
+}
 std::string trim(std::string_view s);
-std::string_view trimLeftView(std::string_view s);
-std::string_view trimRightView(std::string_view s);
 
 char toUpperAscii(char c);
 std::string toUpper(std::string_view s);
