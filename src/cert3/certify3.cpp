@@ -102,7 +102,7 @@ void runGroups(RunContext& run) {
   Slots slots;
 
   presetSlots(slots, {});
-  CheckStatus code = checkTitleLines3(run.source(), slots[7]);
+  CheckStatus code = checkTitleLines3(run.source(), slots[7], &run.sections.tildeLines);
   if (afterCheck(run, 0, code, slots) == Next::Stop) return;
 
   storeDataDelimiter(run);

@@ -391,7 +391,7 @@ CheckStatus checkSectionStructure(RunContext& run, Slots& slots) {
     if (!v3) {
       minimumSections2(titles, slots[1]);
       slots[3].clear();
-      checkTitleLines2(run.source(), slots[3]);
+      checkTitleLines2(run.source(), slots[3], &run.sections.tildeLines);
       duplicates2(titles, slots[2]);
     } else {
       minimumSections3(titles, run.sections, slots[1]);

@@ -58,11 +58,11 @@ void judgeLine2(std::string_view line, std::string& slot) {
   }
 }
 
-CheckStatus runPass(const LasFile& file, std::string& slot,
+CheckStatus runPass(const LasFile& file, std::string& slot, TildeLines* known,
                     void (*judge)(std::string_view, std::string&)) {
   try {
     const bool read = forEachTildeLine(
-        file, [&](std::string_view line, std::int64_t /*next*/) { judge(line, slot); });
+        file, known, [&](std::string_view line, std::int64_t /*next*/) { judge(line, slot); });
     if (!read) return CheckStatus::Fault;
     return slot.empty() ? CheckStatus::Passed : CheckStatus::Failed;
   } catch (const std::exception&) {
@@ -72,12 +72,12 @@ CheckStatus runPass(const LasFile& file, std::string& slot,
 
 }  // namespace
 
-CheckStatus checkTitleLines3(const LasFile& file, std::string& slot) {
-  return runPass(file, slot, judgeLine3);
+CheckStatus checkTitleLines3(const LasFile& file, std::string& slot, TildeLines* known) {
+  return runPass(file, slot, known, judgeLine3);
 }
 
-CheckStatus checkTitleLines2(const LasFile& file, std::string& slot) {
-  return runPass(file, slot, judgeLine2);
+CheckStatus checkTitleLines2(const LasFile& file, std::string& slot, TildeLines* known) {
+  return runPass(file, slot, known, judgeLine2);
 }
 
 }  // namespace zorvik

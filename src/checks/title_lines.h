@@ -11,10 +11,13 @@
 
 #include "checks/check_table.h"
 #include "las/las_file.h"
+#include "las/tilde_lines.h"
 
 namespace zorvik {
 
-CheckStatus checkTitleLines3(const LasFile& file, std::string& slot);
-CheckStatus checkTitleLines2(const LasFile& file, std::string& slot);
+// With `known`, tilde lines an earlier search of the same file kept are read from there, and what
+// this search finds is kept there.
+CheckStatus checkTitleLines3(const LasFile& file, std::string& slot, TildeLines* known = nullptr);
+CheckStatus checkTitleLines2(const LasFile& file, std::string& slot, TildeLines* known = nullptr);
 
 }  // namespace zorvik

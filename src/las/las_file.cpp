@@ -65,6 +65,15 @@ void LasFile::close() {
   path_.clear();
 }
 
+std::optional<LasFile::Stamp> LasFile::stamp() const {
+  struct stat info {};
+  if (fd_ < 0 || ::fstat(fd_, &info) != 0) return std::nullopt;
+  return Stamp{static_cast<std::uint64_t>(info.st_dev), static_cast<std::uint64_t>(info.st_ino),
+               static_cast<std::int64_t>(info.st_size),
+               static_cast<std::int64_t>(info.st_mtim.tv_sec) * 1'000'000'000 +
+                   static_cast<std::int64_t>(info.st_mtim.tv_nsec)};
+}
+
 std::int64_t LasFile::readAt(std::int64_t offset, char* into, std::size_t count) const {
   if (fd_ < 0 || offset < 0) return -1;
   for (;;) {

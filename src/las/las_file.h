@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace zorvik {
@@ -34,6 +35,17 @@ class LasFile {
   // Reads up to `count` bytes from the 0-based `offset` into `into`: the number read, 0 at the
   // end, -1 on a read error.
   std::int64_t readAt(std::int64_t offset, char* into, std::size_t count) const;
+
+  // Which file is open and how it stands now: what was read of it still holds while the stamp is
+  // the same. None when nothing is open or the file cannot be asked.
+  struct Stamp {
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
+    std::int64_t size = 0;
+    std::int64_t modifiedNs = 0;
+    bool operator==(const Stamp&) const = default;
+  };
+  std::optional<Stamp> stamp() const;
 
  private:
   int fd_ = -1;

@@ -7,6 +7,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "las/tilde_lines.h"
+
 namespace zorvik {
 
 enum class SectionRole { Header, Data, Definition, Parameter, Other };
@@ -55,6 +57,8 @@ struct SectionIndex {
   // Set once the index has been read from the file: whether with 3.0's rules for names. A run
   // that has its index already, read under the same rules, does not read the file again for it.
   std::optional<bool> readAsV3;
+  // The file's tilde lines as the index read them, for the title-line check to read again.
+  TildeLines tildeLines;
 };
 
 }  // namespace zorvik

@@ -12,8 +12,31 @@ constexpr std::size_t BLOCK_BYTES = 256 * 1024;
 
 }  // namespace
 
-bool forEachTildeLine(const LasFile& file,
+bool forEachTildeLine(const LasFile& file, TildeLines* known,
                       const std::function<void(std::string_view line, std::int64_t next)>& visit) {
+  if (!file.isOpen()) return false;
+  const std::optional<LasFile::Stamp> before = file.stamp();
+  if (known != nullptr && known->stamp_ && known->stamp_ == before) {
+    for (const TildeLines::Line& kept : known->lines_)
+      visit(std::string_view(known->text_).substr(kept.offset, kept.length), kept.next);
+    return true;
+  }
+  // What this search finds is kept while it fits, and only for a file that did not change under it.
+  TildeLines found;
+  bool keeping = known != nullptr && before.has_value();
+  const auto see = [&](std::string_view line, std::int64_t next) {
+    visit(line, next);
+    if (!keeping) return;
+    if (found.text_.size() + line.size() + found.lines_.size() * sizeof(TildeLines::Line) >
+        TildeLines::kMaxBytes) {
+      keeping = false;
+      found = TildeLines{};
+      return;
+    }
+    found.lines_.push_back(TildeLines::Line{found.text_.size(), line.size(), next});
+    found.text_.append(line);
+  };
+
   LineReader reader;
   if (!reader.open(file)) return false;
   // Blocks are read from the file straight into one buffer, so each byte is copied once.
@@ -43,7 +66,7 @@ bool forEachTildeLine(const LasFile& file,
       reader.seek(lineStart);
       reader.readLine(line);
       lineStart = reader.position();
-      visit(line, lineStart);
+      see(line, lineStart);
       if (lineStart >= next) break;
       from = static_cast<std::size_t>(lineStart - blockStart);
     }
@@ -61,6 +84,14 @@ bool forEachTildeLine(const LasFile& file,
       lineStart = blockStart + static_cast<std::int64_t>(from);
     }
     blockStart = next;
+  }
+  if (known != nullptr) {
+    if (keeping && file.stamp() == before) {
+      found.stamp_ = before;
+      *known = std::move(found);
+    } else {
+      *known = TildeLines{};
+    }
   }
   return true;
 }

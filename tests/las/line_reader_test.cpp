@@ -175,6 +175,33 @@ TEST(TildeLines, FindsWhatReadingEveryLineFinds) {
   EXPECT_FALSE(forEachTildeLine(LasFile(), [](std::string_view, std::int64_t) {}));
 }
 
+// Tilde lines kept by one search serve the next one only while the file is the one they were
+// found in, unchanged; too many are not kept, and every search still sees them all.
+TEST(TildeLines, KeptLinesServeOnlyTheSameUnchangedFile) {
+  using Found = std::vector<std::pair<std::string, std::int64_t>>;
+  const auto search = [](const LasFile& file, TildeLines& known) {
+    Found found;
+    forEachTildeLine(file, &known, [&](std::string_view text, std::int64_t next) {
+      found.emplace_back(std::string(text), next);
+    });
+    return found;
+  };
+  const std::string path = writeScratchFile("kept.las", "~V\r\nA\r\n~W\r\n");
+  TildeLines known;
+  const Found first = search(LasFile(path), known);
+  EXPECT_EQ(first, (Found{{"~V", 5}, {"~W", 12}}));
+  LasFile same(path);
+  EXPECT_EQ(search(same, known), first);
+  writeScratchFile("kept.las", "~V\r\nA\r\n~W\r\n~X\r\n");  // another file at the path
+  EXPECT_EQ(search(LasFile(path), known).size(), 3u);
+
+  std::string many;
+  for (int i = 0; i < 400000; ++i) many += "~Section" + std::to_string(i) + "\r\n";
+  const std::string big = writeScratchFile("many.las", many);
+  EXPECT_EQ(search(LasFile(big), known).size(), 400000u);
+  EXPECT_EQ(search(LasFile(big), known).size(), 400000u);
+}
+
 TEST(LineReader, UnreadableInputsGiveNoLines) {
   for (const std::string& path :
        {testing::scratchFolder() + "/missing.las", testing::scratchFolder()}) {
