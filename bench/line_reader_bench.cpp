@@ -2,8 +2,9 @@
 //
 //   ZORVIK_BENCH_LAS=/path/big.las build-bench/bench/bench_line_reader
 //
-// The file is any large LAS file, e.g. one written by gen_las.py with --mb 200. The raw scan reads
-// 64 KiB blocks and counts the CRs in them with memchr: the least any line splitter must do.
+// The file is any large LAS file, e.g. one written by bench/make_las.py with --mb 200. The raw
+// scan reads 64 KiB blocks and counts the CRs in them with memchr: the least any line splitter
+// must do.
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
