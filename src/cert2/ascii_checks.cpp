@@ -12,7 +12,7 @@ namespace {
 
 CheckStatus evaluate(const Slots& slots) {
   for (int k = 1; k <= 4; ++k)
-    if (!slots[k].empty()) return CheckStatus::Failed;
+    if (!slots[k].passed()) return CheckStatus::Failed;
   return CheckStatus::Passed;
 }
 
@@ -78,9 +78,9 @@ CheckStatus checkAsciiSection(RunContext& run, const std::string& wrapValue, int
       values = file.readLine(line) ? countWords(line, run.dialect.delimiter) : 0;
     }
     if (definitions != values) {
-      slots[1] = "~" + definitionName + " has " + toText(definitions) +
-                 " channel descriptions while ~" + section.name + " 1st line has " +
-                 toText(values) + " delimited channels. ";
+      slots[1] = RowResult::saying("~" + definitionName + " has " + toText(definitions) +
+                                   " channel descriptions while ~" + section.name +
+                                   " 1st line has " + toText(values) + " delimited channels. ");
       return evaluate(slots);
     }
 
@@ -88,14 +88,15 @@ CheckStatus checkAsciiSection(RunContext& run, const std::string& wrapValue, int
     // Line lengths are judged only on request (/W), wrapped data or not.
     judgeRecords(run, section.start,
                  asciiRecordRules(wrapValue, linesPerRecord, definitions, run.doWrap), slots);
-    if (!slots[2].empty() || !slots[4].empty()) return evaluate(slots);
+    if (!slots[2].passed() || !slots[4].passed()) return evaluate(slots);
   }
 
   // The data must close the file: nothing may follow it.
   if (!index.empty()) {
     const std::string& lastName = index.back().name;
     if (!iequals(lastName, "A") && !istartsWith(lastName, "Ascii"))
-      slots[3] = "~ASCII section is not last section in the file. ~" + lastName + " was.";
+      slots[3] = RowResult::saying("~ASCII section is not last section in the file. ~" + lastName +
+                                   " was.");
   }
   return evaluate(slots);
 }

@@ -29,7 +29,7 @@ struct RunFailed {};
 
 Slots presetSlots(int undecidedRows) {
   Slots slots;
-  for (int k = 1; k <= undecidedRows; ++k) slots[k] = " ";
+  for (int k = 1; k <= undecidedRows; ++k) slots[k].markNotReached();
   return slots;
 }
 
@@ -57,7 +57,7 @@ bool loadNamedTable(RunContext& run, ParamTable& table, const std::string& name)
 
 // The country note alone in group 5 keeps the stop rule off for the rest of the run.
 bool onlyCountryNoteRecorded(const CheckTable& table) {
-  return table.at(1, COL_RESULT, kWellGroup).empty() &&
+  return table.result(1, kWellGroup).passed() &&
          !trimView(table.at(2, COL_NOTE, kWellGroup)).empty();
 }
 
@@ -123,15 +123,15 @@ Next runChecks(RunContext& run, const Certify2Checks& checks) {
   int channels = 0;
   slots = presetSlots(0);
   result = checks.lineSyntax(run, wrapValue, curveTable, slots, linesPerRecord, channels);
-  const bool asciiHasOnlyData = slots[6].empty();
+  const bool asciiHasOnlyData = slots[6].passed();
   if ((next = afterCheck(run, 4, result, slots)) != Next::Go) return next;
 
   // Group 5: ~Well mnemonics. A missing country set alone is a note, not a failure: it is kept
   // beside the row's result, which the verdict and the stop rule read, and the row passes.
   slots = presetSlots(2);
   result = checks.wellMnemonics(wellTable, table, slots);
-  if (trimView(slots[1]).empty() && !slots[2].empty()) {
-    table.at(2, COL_NOTE, kWellGroup) = slots[2];
+  if (!slots[1].failed() && !slots[2].passed()) {
+    table.at(2, COL_NOTE, kWellGroup) = slots[2].text();
     result = CheckStatus::Passed;
   }
   WellRange well;

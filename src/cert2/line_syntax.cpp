@@ -21,12 +21,10 @@ namespace {
 constexpr std::size_t MAX_SLOT_BYTES = 8 << 20;
 
 // A finding is its words and the offending line, each after a line break.
-void addFinding(std::string& slot, std::string_view words, std::string_view line) {
-  if (slot.size() >= MAX_SLOT_BYTES) return;
-  slot += "\r\n";
-  slot += words;
-  slot += "\r\n";
-  slot += line;
+void addFinding(RowResult& slot, std::string_view words, std::string_view line,
+                std::int64_t start) {
+  if (slot.textSize() >= MAX_SLOT_BYTES) return;
+  slot.add(lineFinding(std::string(words), std::string(line), start));
 }
 
 bool hasTab(std::string_view line) {
@@ -57,11 +55,11 @@ void judgeDataLines(LineReader& file, bool tabDelimited, Slots& slots, DataWalks
         resume = file.position();
       } else {
         if (t.empty())
-          addFinding(slots[5], "Blank Line in ~Ascii Section", line);
+          addFinding(slots[5], "Blank Line in ~Ascii Section", line, file.lineStart());
         else if (t[0] == '#')
-          addFinding(slots[5], "Comment Line in ~Ascii Section", line);
+          addFinding(slots[5], "Comment Line in ~Ascii Section", line, file.lineStart());
         if (!tabDelimited && (scanned ? bytes.tab : hasTab(line)))
-          addFinding(slots[5], "Tab character(s) found.", line);
+          addFinding(slots[5], "Tab character(s) found.", line, file.lineStart());
       }
     }
     if (walks != nullptr) {
@@ -74,30 +72,33 @@ void judgeDataLines(LineReader& file, bool tabDelimited, Slots& slots, DataWalks
   if (resume != 0) file.seek(resume);
 }
 
-void judgeHeaderLine(std::string_view line, const Dialect& dialect, bool tabDelimited,
-                     Slots& slots) {
+void judgeHeaderLine(std::string_view line, std::int64_t start, const Dialect& dialect,
+                     bool tabDelimited, Slots& slots) {
   switch (classifyHeaderLine(line)) {
     case LineKind::Ok:
       if (!isValidMnemonic(fieldMnemonic(line), dialect))
-        addFinding(slots[1], "Illegal mnemonic: ", line);
-      if (!isLegalUnitText(fieldUnit(line), dialect)) addFinding(slots[2], "Illegal Unit: ", line);
+        addFinding(slots[1], "Illegal mnemonic: ", line, start);
+      if (!isLegalUnitText(fieldUnit(line), dialect))
+        addFinding(slots[2], "Illegal Unit: ", line, start);
       if (!isLegalValueText(fieldValue(line), dialect))
-        addFinding(slots[3], "Illegal Value: ", line);
+        addFinding(slots[3], "Illegal Value: ", line, start);
       if (!isLegalDescriptionText(fieldDescription(line), dialect))
-        addFinding(slots[4], "Illegal Description: ", line);
-      if (!tabDelimited && hasTab(line)) addFinding(slots[4], "Tab character(s) found.", line);
+        addFinding(slots[4], "Illegal Description: ", line, start);
+      if (!tabDelimited && hasTab(line))
+        addFinding(slots[4], "Tab character(s) found.", line, start);
       break;
     case LineKind::NoMnemonic:
-      addFinding(slots[1], "Missing Mnemonic", line);
+      addFinding(slots[1], "Missing Mnemonic", line, start);
       break;
     case LineKind::HasTab:
-      addFinding(slots[5], "Tab characters used on the line: ", replaceAll(line, "\t", "<Tab>"));
+      addFinding(slots[5], "Tab characters used on the line: ", replaceAll(line, "\t", "<Tab>"),
+                 start);
       break;
     case LineKind::SpaceInMnemonic:
-      addFinding(slots[1], "Mnemonic has embedded space(s)", line);
+      addFinding(slots[1], "Mnemonic has embedded space(s)", line, start);
       break;
     case LineKind::NotDelimited:
-      addFinding(slots[5], "Unknown or undetermined line type", line);
+      addFinding(slots[5], "Unknown or undetermined line type", line, start);
       break;
     default:  // blank, comment and title lines say nothing about syntax
       break;
@@ -110,7 +111,7 @@ void judgeHeaderLines(LineReader& file, const Dialect& dialect, bool tabDelimite
   std::string_view line;
   while (file.readLine(line)) {
     if (isTitleLine(line)) break;
-    judgeHeaderLine(line, dialect, tabDelimited, slots);
+    judgeHeaderLine(line, file.lineStart(), dialect, tabDelimited, slots);
   }
 }
 
@@ -192,11 +193,12 @@ CheckStatus checkLineSyntax(RunContext& run, const std::string& wrapValue,
   std::int64_t length = file.length();
   file.close();
 
-  if (noDataAt(firstDataLinePosition(run), length)) slots[6] = "No data lines in ASCII section";
-  slots[7] = wrapMessage(structure, wrapValue);
+  if (noDataAt(firstDataLinePosition(run), length))
+    slots[6] = RowResult::saying("No data lines in ASCII section");
+  slots[7] = RowResult::saying(wrapMessage(structure, wrapValue));
 
   for (int k = 1; k <= 7; ++k)
-    if (!slots[k].empty()) return CheckStatus::Failed;
+    if (!slots[k].passed()) return CheckStatus::Failed;
   return CheckStatus::Passed;
 }
 

@@ -26,13 +26,14 @@ std::string absentFrom(const std::string& spacedList,
 }  // namespace
 
 CheckStatus checkWellMnemonics(const ParamTable& wellTable, CheckTable& table, Slots& slots) {
-  slots.fill("");
+  slots.fill(RowResult{});
   // A leading blank lets the first mnemonic be found like the others.
   const std::string spacedList = " " + wellTable.validMnemonics();
 
-  slots[1] = absentFrom(
+  const std::string required = absentFrom(
       spacedList, {"STRT", "STOP", "STEP", "NULL", "COMP", "WELL", "FLD", "LOC", "DATE", "SRVC"});
-  if (!slots[1].empty()) slots[1] = "Missing required mnemonics are : " + slots[1];
+  if (!required.empty())
+    slots[1] = RowResult::saying("Missing required mnemonics are : " + required);
 
   const std::string canada = absentFrom(spacedList, {"PROV", "UWI"});
   const std::string usa = absentFrom(spacedList, {"STAT", "CNTY", "CTRY", "API"});
@@ -41,10 +42,10 @@ CheckStatus checkWellMnemonics(const ParamTable& wellTable, CheckTable& table, S
   if (usa.empty() && !canada.empty()) countryTitle += " (USA Requirements)";
 
   if (!canada.empty() && !usa.empty()) {
-    slots[2] =
-        "Country Specific mnemonics: CDN set missing,  " + canada + " ; USA set missing, " + usa;
+    slots[2] = RowResult::saying("Country Specific mnemonics: CDN set missing,  " + canada +
+                                 " ; USA set missing, " + usa);
   }
-  return slots[1].empty() && slots[2].empty() ? CheckStatus::Passed : CheckStatus::Failed;
+  return slots[1].passed() && slots[2].passed() ? CheckStatus::Passed : CheckStatus::Failed;
 }
 
 }  // namespace zorvik

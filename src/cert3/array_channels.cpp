@@ -57,6 +57,7 @@ struct Element {
   std::string unit;
   std::string format;  // as written between the braces
   bool isArray = false;
+  std::int64_t position = 0;  // of its line
 };
 
 struct ArrayGroup {
@@ -81,9 +82,15 @@ std::vector<Element> definitionLines(RunContext& run, LineReader& reader,
     e.unit = fieldUnit(line);
     e.format = std::string(writtenFormat(line));
     e.isArray = isArrayFormat(e.format);
+    e.position = reader.lineStart();
     lines.push_back(std::move(e));
   }
   return lines;
+}
+
+// A finding about one definition line: its words, then a line break.
+Finding elementFinding(const Element& e, std::string words) {
+  return Finding{std::move(words), std::nullopt, e.position, 0, FindingBreak::After};
 }
 
 // Judges one definition section; false when its unnumbered elements kept items 2 to 5 from being
@@ -92,15 +99,14 @@ bool checkSection(const std::vector<Element>& lines, Slots& slots) {
   bool unnumbered = false;
   for (const Element& e : lines) {
     if (e.isArray && arrayElementNumber(e.mnemonic) == -1) {
-      slots[1] += e.mnemonic;
-      slots[1] += CRLF;
+      slots[1].add(elementFinding(e, e.mnemonic));
       unnumbered = true;
     }
   }
   if (unnumbered) return false;
   // The first section tested decides these items from their preset on.
   for (int k = 2; k <= 5; ++k)
-    if (slots[k] == " ") slots[k].clear();
+    if (slots[k].notReached()) slots[k].clear();
 
   std::unordered_map<std::string, ArrayGroup> groups;  // upper-cased base mnemonic
   ArrayGroup* current = nullptr;
@@ -119,31 +125,21 @@ bool checkSection(const std::vector<Element>& lines, Slots& slots) {
       group.spacing = std::string(spacingOf(e.format));
       group.unit = e.unit;
     } else if (group.closed) {
-      slots[3] += e.mnemonic;
-      slots[3] += CRLF;
+      slots[3].add(elementFinding(e, e.mnemonic));
     }
     current = &group;
     // Each out-of-sequence element stands on a line of its own, as in the other array items.
     if (number != group.lastNumber + 1) {
-      slots[2] += e.mnemonic;
-      slots[2] += CRLF;
+      slots[2].add(elementFinding(e, e.mnemonic));
     }
     group.lastNumber = number;
     if (!opened && spacingOf(e.format) != group.spacing) {
-      slots[4] += e.mnemonic;
-      slots[4] += ", format was: {";
-      slots[4] += e.format;
-      slots[4] += "}";
-      slots[4] += CRLF;
+      slots[4].add(elementFinding(e, e.mnemonic + ", format was: {" + e.format + "}"));
     }
     // Units are compared exactly: "ms" and "MS" are different units.
     if (!opened && e.unit != group.unit) {
-      slots[5] += e.mnemonic;
-      slots[5] += ", unit was: ";
-      slots[5] += e.unit;
-      slots[5] += ", first was: ";
-      slots[5] += group.unit;
-      slots[5] += CRLF;
+      slots[5].add(
+          elementFinding(e, e.mnemonic + ", unit was: " + e.unit + ", first was: " + group.unit));
     }
   }
   return true;
@@ -171,10 +167,10 @@ CheckStatus checkArrayChannels(RunContext& run, Slots& slots) {
   }
   if (!skipped) {
     for (int k = 2; k <= 5; ++k)
-      if (slots[k] == " ") slots[k].clear();
+      if (slots[k].notReached()) slots[k].clear();
   }
   for (int k = 1; k <= 5; ++k) {
-    if (!slots[k].empty()) return CheckStatus::Failed;
+    if (!slots[k].passed()) return CheckStatus::Failed;
   }
   return CheckStatus::Passed;
 }

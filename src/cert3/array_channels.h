@@ -14,7 +14,7 @@ struct RunContext;
 
 // Fills slots 1-5. A section with an array element lacking "[n]" is not tested for items 2-5; when
 // no section was, those keep the preset they came with (a single blank: undecided).
-// Returns CheckStatus::Failed when any of them holds text, CheckStatus::Passed otherwise,
+// Returns CheckStatus::Failed when any of them holds findings, CheckStatus::Passed otherwise,
 // CheckStatus::Fault when an internal fault ended it (slots then hold what was found so far). A
 // file that cannot be opened has no lines, so nothing is found in it.
 CheckStatus checkArrayChannels(RunContext& run, Slots& slots);

@@ -36,6 +36,7 @@ MnemonicTable buildMnemonicTable(RunContext& run) {
       row.value = fieldValue(line);
       row.description = fieldDescription(line);
       row.association = fieldAssociation(line, run.dialect.delimiter, row.entries);
+      row.position = reader.lineStart();
       table.add(std::move(row));
     }
   }
@@ -53,16 +54,13 @@ CheckStatus checkAssociations(RunContext& run, Slots& slots) {
       for (const std::string& entry : row.entries) {
         int target = table.lookup(entry);
         if (target == -1) {
-          slots[1] += "Association mnemonic ";
-          slots[1] += trimView(entry);
-          slots[1] += " not found in file. Line was :";
-          slots[1] += CRLF;
-          slots[1] += rowAsLine(row);
-          slots[1] += CRLF;
+          slots[1].add(Finding{"Association mnemonic " + std::string(trimView(entry)) +
+                                   " not found in file. Line was :",
+                               rowAsLine(row), row.position, 0, FindingBreak::After});
         } else if (target == r) {
-          slots[2] += "Line was like : ";
-          slots[2] += rowAsLine(row);
-          slots[2] += CRLF;
+          // The line runs on after the words, as written.
+          slots[2].add(Finding{"Line was like : " + rowAsLine(row), std::nullopt, row.position, 0,
+                               FindingBreak::After});
         }
       }
     }
@@ -71,15 +69,14 @@ CheckStatus checkAssociations(RunContext& run, Slots& slots) {
     std::vector<bool> circular = rowsInCircularChains(table);
     for (int r = 1; r <= table.size(); ++r) {
       if (!circular[static_cast<std::size_t>(r)]) continue;
-      slots[2] += "Circular Association at line: ";
-      slots[2] += CRLF;
-      slots[2] += rowAsLine(table.row(r));
-      slots[2] += CRLF;
+      const MnemonicRow& row = table.row(r);
+      slots[2].add(Finding{"Circular Association at line: ", rowAsLine(row), row.position, 0,
+                           FindingBreak::After});
     }
   } catch (const std::exception&) {
     return CheckStatus::Fault;
   }
-  return slots[1].empty() && slots[2].empty() ? CheckStatus::Passed : CheckStatus::Failed;
+  return slots[1].passed() && slots[2].passed() ? CheckStatus::Passed : CheckStatus::Failed;
 }
 
 }  // namespace zorvik

@@ -12,7 +12,7 @@ namespace zorvik {
 
 struct RunContext;
 
-// Fills slots 1-2. Returns CheckStatus::Failed when either holds text, CheckStatus::Passed
+// Fills slots 1-2. Returns CheckStatus::Failed when either holds findings, CheckStatus::Passed
 // otherwise, CheckStatus::Fault when an internal fault ended it (slots then hold what was found so
 // far). A file that cannot be opened has no lines, so nothing is found in it.
 CheckStatus checkAssociations(RunContext& run, Slots& slots);

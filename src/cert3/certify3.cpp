@@ -41,11 +41,8 @@ struct HeaderTables {
 // Every cell of the table but those of group 1, which the run driver fills before this driver
 // runs: a file that failed a file-level check keeps failing and stops after group 2.
 void clearAllButGroup1(CheckTable& table) {
-  for (int g = 0; g <= table.lastGroup(); ++g) {
-    if (g == 1) continue;
-    for (int r = 0; r <= table.lastRow(); ++r)
-      for (int c = 0; c <= table.lastColumn(); ++c) table.at(r, c, g).clear();
-  }
+  for (int g = 0; g <= table.lastGroup(); ++g)
+    if (g != 1) table.clearGroup(g);
 }
 
 // The delimiter that the ~Version section's DLM word stands for; an unknown word reads as a space.
@@ -56,8 +53,8 @@ void storeDataDelimiter(RunContext& run) {
 }
 
 void presetSlots(Slots& slots, std::initializer_list<int> undecided) {
-  for (std::string& s : slots) s.clear();
-  for (int k : undecided) slots[k] = " ";
+  for (RowResult& row : slots) row.clear();
+  for (int k : undecided) slots[k].markNotReached();
 }
 
 // Progress, display marks, record, stop test, then the cancel question; in this order.

@@ -35,7 +35,7 @@ void ColumnDataScan::beginSection(const SectionEntry& data) {
   expected_ = 0;
 }
 
-void ColumnDataScan::takeLine(std::string_view line) {
+void ColumnDataScan::takeLine(std::string_view line, std::int64_t start) {
   if (isBlankOrComment(line)) return;
   const std::string& dataName = section_->name;
   const bool counted = delimiter_ != ' ' && splitCountingItems(line, delimiter_, items_, shapes_);
@@ -44,18 +44,18 @@ void ColumnDataScan::takeLine(std::string_view line) {
     first_ = false;
     expected_ = items_.size();
     if (expected_ != static_cast<std::size_t>(channels_)) {
-      reportChannelCount(definitionName_, channels_, dataName, expected_);
+      reportChannelCount(definitionName_, channels_, dataName, expected_, start);
     }
   }
-  checkFormats(dataName, counted);
+  checkFormats(dataName, counted, start);
   // Each line is held to the count of the section's first data line, so a line that differs from
   // its neighbours is named even when the definitions disagree with all.
-  if (items_.size() != expected_) reportItemCount(line, dataName, expected_);
+  if (items_.size() != expected_) reportItemCount(line, start, dataName, expected_);
 }
 
 void ColumnDataScan::endSection() {
   if (section_ != nullptr && first_ && channels_ != 0)
-    reportChannelCount(definitionName_, channels_, section_->name, 0);
+    reportChannelCount(definitionName_, channels_, section_->name, 0, section_->titleStart);
   section_ = nullptr;
 }
 
@@ -67,22 +67,16 @@ Slots ColumnDataScan::finish() {
 }
 
 void ColumnDataScan::reportChannelCount(const std::string& definitionName, int channels,
-                                        const std::string& dataName, std::size_t found) {
-  std::string& slot = slots_[1];
-  slot += "~";
-  slot += definitionName;
-  slot += " has ";
-  slot += toText(channels);
-  slot += " channel descriptions while ~";
-  slot += dataName;
-  slot += " has ";
-  slot += toText(static_cast<long long>(found));
-  slot += " delimited channels. ";
-  slot += CRLF;
+                                        const std::string& dataName, std::size_t found,
+                                        std::int64_t position) {
+  slots_[1].add(Finding{"~" + definitionName + " has " + toText(channels) +
+                            " channel descriptions while ~" + dataName + " has " +
+                            toText(static_cast<long long>(found)) + " delimited channels. ",
+                        std::nullopt, position, 0, FindingBreak::After});
 }
 
 // `counted`: the items come with their shapes (the common line, read in one pass).
-void ColumnDataScan::checkFormats(const std::string& dataName, bool counted) {
+void ColumnDataScan::checkFormats(const std::string& dataName, bool counted, std::int64_t start) {
   const std::string_view delimiterText = run_.dialect.delimiter;
   std::size_t n = std::min(items_.size(), formats_.size());
   for (std::size_t k = 0; k < n; ++k) {
@@ -95,34 +89,28 @@ void ColumnDataScan::checkFormats(const std::string& dataName, bool counted) {
     if (!budget3_.take(items_[k].size() + dataName.size() + place.size() + f.text.size() + 48)) {
       continue;
     }
-    std::string& slot = slots_[3];
-    slot += "Data column item (";
-    slot += items_[k];
-    slot += ") in ~";
-    slot += dataName;
-    slot += " @ ";
-    slot += place;
-    slot += " wrong format {";
-    slot += f.text;
-    slot += "}";
-    slot += CRLF;
+    std::string words;
+    words.reserve(items_[k].size() + dataName.size() + place.size() + f.text.size() + 40);
+    words += "Data column item (";
+    words += items_[k];
+    words += ") in ~";
+    words += dataName;
+    words += " @ ";
+    words += place;
+    words += " wrong format {";
+    words += f.text;
+    words += "}";
+    slots_[3].add(Finding{std::move(words), std::nullopt, start, 0, FindingBreak::After});
   }
 }
 
-void ColumnDataScan::reportItemCount(std::string_view line, const std::string& dataName,
-                                     std::size_t expected) {
+void ColumnDataScan::reportItemCount(std::string_view line, std::int64_t start,
+                                     const std::string& dataName, std::size_t expected) {
   if (!budget2_.take(line.size() + dataName.size() + 60)) return;
-  std::string& slot = slots_[2];
-  slot += "Section ";
-  slot += dataName;
-  slot += ", expected ";
-  slot += toText(static_cast<long long>(expected));
-  slot += " channels, found ";
-  slot += toText(static_cast<long long>(items_.size()));
-  slot += ". Line was";
-  slot += CRLF;
-  slot += line;
-  slot += CRLF;
+  slots_[2].add(Finding{"Section " + dataName + ", expected " +
+                            toText(static_cast<long long>(expected)) + " channels, found " +
+                            toText(static_cast<long long>(items_.size())) + ". Line was",
+                        std::string(line), start, 0, FindingBreak::After});
 }
 
 std::string definitionSectionFor(const SectionIndex& sections, const SectionEntry& dataSection) {
@@ -157,7 +145,7 @@ CheckStatus checkColumnData(RunContext& run, Slots& slots) {
           scan.beginSection(entry);
           reader.seek(entry.start);
           std::string_view line;
-          while (readSectionLine(reader, line)) scan.takeLine(line);
+          while (readSectionLine(reader, line)) scan.takeLine(line, reader.lineStart());
           scan.endSection();
         }
       }
@@ -169,7 +157,7 @@ CheckStatus checkColumnData(RunContext& run, Slots& slots) {
     }
   }
   for (int k = 1; k <= 3; ++k) {
-    if (!slots[k].empty()) return CheckStatus::Failed;
+    if (!slots[k].passed()) return CheckStatus::Failed;
   }
   return CheckStatus::Passed;
 }

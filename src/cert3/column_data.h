@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,8 +30,9 @@ class ColumnDataScan {
   explicit ColumnDataScan(RunContext& run);
   // Starts a data section: reads its channel definitions.
   void beginSection(const SectionEntry& data);
-  // Takes the next line of the section (comment and blank lines included; they are passed over).
-  void takeLine(std::string_view line);
+  // Takes the next line of the section, read at the 1-based position `start` (comment and blank
+  // lines included; they are passed over).
+  void takeLine(std::string_view line, std::int64_t start);
   // Ends the section in hand, if any.
   void endSection();
   // Ends the scan; the findings of rows 1-3.
@@ -40,9 +42,10 @@ class ColumnDataScan {
 
  private:
   void reportChannelCount(const std::string& definitionName, int channels,
-                          const std::string& dataName, std::size_t found);
-  void checkFormats(const std::string& dataName, bool counted);
-  void reportItemCount(std::string_view line, const std::string& dataName, std::size_t expected);
+                          const std::string& dataName, std::size_t found, std::int64_t position);
+  void checkFormats(const std::string& dataName, bool counted, std::int64_t start);
+  void reportItemCount(std::string_view line, std::int64_t start, const std::string& dataName,
+                       std::size_t expected);
 
   RunContext& run_;
   char delimiter_ = ' ';
@@ -60,7 +63,7 @@ class ColumnDataScan {
 };
 
 // Fills slots 1-3 (with the findings the line check's pass kept, when it could keep them). Returns
-// CheckStatus::Failed when any of them holds text, CheckStatus::Passed otherwise,
+// CheckStatus::Failed when any of them holds findings, CheckStatus::Passed otherwise,
 // CheckStatus::Fault when an internal fault ended it (slots then hold what was found so far). A
 // file that cannot be opened has no data lines.
 CheckStatus checkColumnData(RunContext& run, Slots& slots);

@@ -4,10 +4,10 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
-#include <string_view>
+#include <optional>
 
 #include "base/text.h"
+#include "checks/row_result.h"
 
 namespace zorvik {
 
@@ -28,12 +28,11 @@ class FindingBudget {
   }
   long long unlisted() const { return unlisted_; }
 
-  // Appends to `slot` the count of findings left out, when there were any.
-  void closeInto(std::string& slot) const {
+  // Adds to `slot` the count of findings left out, when there were any.
+  void closeInto(RowResult& slot) const {
     if (unlisted_ == 0) return;
-    slot += toText(unlisted_);
-    slot += " more findings of this kind not listed";
-    slot += "\r\n";
+    slot.add(Finding{toText(unlisted_) + " more findings of this kind not listed", std::nullopt, 0,
+                     0, FindingBreak::After});
   }
 
  private:

@@ -76,10 +76,10 @@ class LineStructureCheck {
         continue;
       }
       bool last = wasLastLine(reader);
-      fileParserFindings(line, section);
+      fileParserFindings(line, reader.lineStart(), section);
       if (scan_.entry != nullptr) {
-        rereadDataLine(t, last);
-        feedColumns([&] { columns_->takeLine(line); });
+        rereadDataLine(t, reader.lineStart(), last);
+        feedColumns([&] { columns_->takeLine(line, reader.lineStart()); });
       }
       if (walk_) walk_->feed(line);
     }
@@ -87,11 +87,11 @@ class LineStructureCheck {
     finishIncrementWalk();
     keepForLaterChecks();
     for (int k : kItems) budgets_[k].closeInto(slots_[k]);
-    slots_[10] += dataFindings_;
+    slots_[10].append(dataFindings_);
   }
 
  private:
-  void fileParserFindings(std::string_view line, std::string& section) {
+  void fileParserFindings(std::string_view line, std::int64_t start, std::string& section) {
     if (parseV3Line(line, section, kind_, run_.dialect, run_.sections, diagnostics_) ==
         V3LineType::Title)
       kind_ = v3SectionKind(section, run_.sections);
@@ -102,44 +102,43 @@ class LineStructureCheck {
       std::size_t bytes =
           label.size() + diagnostics_[k].size() + opener.size() + section.size() + line.size() + 5;
       if (!budgets_[k].take(bytes)) continue;
-      std::string& slot = slots_[k];
-      slot += label;
-      slot += diagnostics_[k];
-      slot += opener;
-      slot += section;
-      slot += ")";
-      slot += CRLF;
-      slot += line;
-      slot += CRLF;
+      std::string words;
+      words.reserve(bytes);
+      words += label;
+      words += diagnostics_[k];
+      words += opener;
+      words += section;
+      words += ")";
+      slots_[k].add(Finding{std::move(words), std::string(line), start, 0, FindingBreak::After});
     }
   }
 
   // Blank and comment lines among the data, and data lines without the delimiter; each kind is
   // told once per section.
-  void rereadDataLine(std::string_view t, bool lastLineOfFile) {
+  void rereadDataLine(std::string_view t, std::int64_t start, bool lastLineOfFile) {
     const std::string& title = scan_.entry->name;
     if (t.empty() || t.front() == '#') {
       if (scan_.dataSeen && !scan_.gapReported) {
         scan_.gapReported = true;
-        addDataFinding(" Comment or blank line within Column Data lines in section ", title);
+        addDataFinding(" Comment or blank line within Column Data lines in section ", title, start);
       }
       return;
     }
     scan_.dataSeen = true;
     if (t.find(delimiter_) != std::string_view::npos) return;
     if (lastLineOfFile) {
-      if (!scan_.lastLineReported) addDataFinding("No Delimiters found in section ", title);
+      if (!scan_.lastLineReported) addDataFinding("No Delimiters found in section ", title, start);
       scan_.lastLineReported = true;
     } else {
-      if (!scan_.noDelimiterReported) addDataFinding("No delimiters found in section ", title);
+      if (!scan_.noDelimiterReported)
+        addDataFinding("No delimiters found in section ", title, start);
       scan_.noDelimiterReported = true;
     }
   }
 
-  void addDataFinding(std::string_view words, const std::string& title) {
-    dataFindings_ += words;
-    dataFindings_ += title;
-    dataFindings_ += CRLF;
+  void addDataFinding(std::string_view words, const std::string& title, std::int64_t start) {
+    dataFindings_.add(
+        Finding{std::string(words) + title, std::nullopt, start, 0, FindingBreak::After});
   }
 
   // The increments of the run's data section, walked on this pass, and the column data check's
@@ -179,9 +178,8 @@ class LineStructureCheck {
 
   void finishDataSection() {
     if (scan_.entry != nullptr && !scan_.dataSeen) {
-      slots_[11] += CRLF;
-      slots_[11] += "No Data lines found in section ";
-      slots_[11] += scan_.entry->name;
+      slots_[11].add(Finding{"No Data lines found in section " + scan_.entry->name, std::nullopt,
+                             scan_.entry->titleStart, 0, FindingBreak::Before});
     }
     scan_ = DataSectionScan{};
   }
@@ -198,7 +196,7 @@ class LineStructureCheck {
   std::optional<StepAnswer> incrementAnswer_;
   std::optional<IncrementResult> increments_;
   std::optional<ColumnDataScan> columns_;  // none once it faulted
-  std::string dataFindings_;  // item 10 findings of the data sections, listed after the parser's
+  RowResult dataFindings_;  // item 10 findings of the data sections, listed after the parser's
 };
 
 }  // namespace
@@ -211,7 +209,7 @@ CheckStatus checkLineStructure3(RunContext& run, Slots& slots) {
     return CheckStatus::Fault;
   }
   for (int k : kItems) {
-    if (!slots[k].empty()) return CheckStatus::Failed;
+    if (!slots[k].passed()) return CheckStatus::Failed;
   }
   return CheckStatus::Passed;
 }

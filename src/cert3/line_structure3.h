@@ -15,7 +15,7 @@ namespace zorvik {
 
 struct RunContext;
 
-// Fills slots 1-3 and 5-11. Returns CheckStatus::Failed when any of them holds text,
+// Fills slots 1-3 and 5-11. Returns CheckStatus::Failed when any of them holds findings,
 // CheckStatus::Passed otherwise, CheckStatus::Fault when an internal fault ended it (slots then
 // hold what was found so far). A file that cannot be opened has no lines, so nothing is found in
 // it.

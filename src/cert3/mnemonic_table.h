@@ -5,6 +5,7 @@
 // its number of references, whatever the references are (self-references, loops, long chains).
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -19,6 +20,7 @@ struct MnemonicRow {
   std::string description;
   std::string association;           // the text after the last "|", "" when none
   std::vector<std::string> entries;  // the association split into referenced mnemonics
+  std::int64_t position = 0;         // 1-based byte position of its line in the file
 };
 
 class MnemonicTable {

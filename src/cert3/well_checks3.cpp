@@ -25,10 +25,15 @@ int entryOf(const ParamTable& table, std::string_view mnemonic) {
   return 0;
 }
 
+// Words of a finding, then a line break.
+Finding closedFinding(std::string words) {
+  return Finding{std::move(words), std::nullopt, 0, 0, FindingBreak::After};
+}
+
 template <std::size_t N>
-void appendMissing(const ParamTable& table, const std::string_view (&list)[N], std::string& slot) {
+void appendMissing(const ParamTable& table, const std::string_view (&list)[N], RowResult& slot) {
   for (std::string_view m : list)
-    if (entryOf(table, m) == 0) slot.append(m).append(CRLF);
+    if (entryOf(table, m) == 0) slot.add(closedFinding(std::string(m)));
 }
 
 // The missing mnemonics of a location set, each followed by ", ".
@@ -40,11 +45,13 @@ std::string missingLocation(const ParamTable& table, const std::string_view (&li
   return out;
 }
 
-// The line of `mnemonic` in section `section` as written; rebuilt from the table's fields when the
-// section text cannot give it.
-std::string lineAsWritten(RunContext& run, std::string_view section, const ParamTable& table,
-                          int entry) {
+// The line of `mnemonic` in section `section` as written, as a finding that shows it; rebuilt
+// from the table's fields (and placed nowhere) when the section text cannot give it.
+Finding lineAsWritten(RunContext& run, std::string_view section, const ParamTable& table,
+                      int entry) {
   const std::string_view mnemonic = table.at(FIELD_MNEMONIC, entry);
+  std::string found;
+  const std::int64_t start = findSection(run.source(), run.dialect, run.sections, section, found);
   const std::string text = sectionText(run.source(), run.dialect, run.sections, section);
   std::size_t begin = 0;
   while (begin < text.size()) {
@@ -52,12 +59,16 @@ std::string lineAsWritten(RunContext& run, std::string_view section, const Param
     if (end == std::string::npos) end = text.size();
     std::string line = replaceAll(std::string_view(text).substr(begin, end - begin), "\n", "");
     const std::string_view trimmed = trimView(line);
-    if (!trimmed.empty() && trimmed.front() != '#' && iequals(fieldMnemonic(line), mnemonic))
-      return line;
+    if (!trimmed.empty() && trimmed.front() != '#' && iequals(fieldMnemonic(line), mnemonic)) {
+      // The line feed of the CR LF before it is not part of the line.
+      const std::size_t lineStart = begin + (text[begin] == '\n' ? 1 : 0);
+      return Finding{std::move(line), std::nullopt, start + static_cast<std::int64_t>(lineStart), 0,
+                     FindingBreak::After};
+    }
     begin = end + 1;
   }
-  return std::string(mnemonic) + "." + table.at(FIELD_UNIT, entry) + " " +
-         table.at(FIELD_VALUE, entry) + " : " + table.at(FIELD_DESCRIPTION, entry);
+  return closedFinding(std::string(mnemonic) + "." + table.at(FIELD_UNIT, entry) + " " +
+                       table.at(FIELD_VALUE, entry) + " : " + table.at(FIELD_DESCRIPTION, entry));
 }
 
 void countryChecks(RunContext& run, const ParamTable& well, int ctry, Slots& slots) {
@@ -69,15 +80,15 @@ void countryChecks(RunContext& run, const ParamTable& well, int ctry, Slots& slo
   const bool badLetters =
       value.size() >= 2 && (!isAsciiLetter(value[0]) || !isAsciiLetter(value[1]));
   if (badLength || badLetters) {
-    const std::string line = lineAsWritten(run, "Well", well, ctry);
-    if (badLength) slots[3].append(line).append(CRLF);
-    if (badLetters) slots[4].append(line).append(CRLF);
+    const Finding line = lineAsWritten(run, "Well", well, ctry);
+    if (badLength) slots[3].add(line);
+    if (badLetters) slots[4].add(line);
   }
   if (iequals(value, "ca")) appendMissing(well, CANADA, slots[5]);
   if (iequals(value, "us")) appendMissing(well, UNITED_STATES, slots[5]);
 }
 
-void locationChecks(const ParamTable& well, std::string& slot) {
+void locationChecks(const ParamTable& well, RowResult& slot) {
   slot.clear();
   const std::string missingA = missingLocation(well, LOCATION_A);
   const std::string missingB = missingLocation(well, LOCATION_B);
@@ -86,9 +97,10 @@ void locationChecks(const ParamTable& well, std::string& slot) {
   // both sets, so when it is missing each list gets a line break in its place and it is named once,
   // at the end.
   if (contains(missingB, "GDAT")) {
-    slot = replaceAll(missingA, "GDAT", CRLF) + replaceAll(missingB, "GDAT", CRLF) + "GDAT";
+    slot = RowResult::saying(replaceAll(missingA, "GDAT", CRLF) +
+                             replaceAll(missingB, "GDAT", CRLF) + "GDAT");
   } else {
-    slot = missingA + missingB;
+    slot = RowResult::saying(missingA + missingB);
   }
 }
 
@@ -105,7 +117,7 @@ CheckStatus checkWellSection3(RunContext& run, const ParamTable& wellTable, Slot
 
     const int ctry = entryOf(wellTable, "CTRY");
     if (ctry == 0) {
-      slots[2] = " ";  // undecided: the country items cannot be judged without the line
+      slots[2].markNotReached();  // undecided: the country items cannot be judged without the line
     } else {
       slots[2].clear();
       countryChecks(run, wellTable, ctry, slots);
@@ -114,7 +126,7 @@ CheckStatus checkWellSection3(RunContext& run, const ParamTable& wellTable, Slot
     locationChecks(wellTable, slots[6]);
 
     for (int k = 1; k <= 6; ++k)
-      if (!slots[k].empty()) return CheckStatus::Failed;
+      if (!slots[k].passed()) return CheckStatus::Failed;
     return CheckStatus::Passed;
   } catch (const std::exception&) {
     return CheckStatus::Fault;

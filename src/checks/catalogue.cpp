@@ -145,9 +145,9 @@ constexpr CatalogueLine kCatalogue2[] = {
 constexpr CatalogueLine kWrapLengthCheck = {
     7, 4, "~ASCII line length conforms to WRAP line length requirements (256 NO, 80 YES)"};
 
-// Row 0 of a catalogue line is the group heading, kept in the result column of row 0.
+// Row 0 of a catalogue line is the group heading.
 void place(CheckTable& table, const CatalogueLine& line, const std::string& title) {
-  table.at(line.row, line.row == 0 ? COL_RESULT : COL_TITLE, line.group) = title;
+  table.at(line.row, line.row == 0 ? COL_HEADING : COL_TITLE, line.group) = title;
 }
 
 }  // namespace
@@ -162,13 +162,13 @@ void layOutCatalogue(RunContext& run) {
 }
 
 void storeGroupResults(CheckTable& table, int group, const Slots& slots) {
-  for (int row = 1; row <= 15; ++row) table.at(row, COL_RESULT, group) = slots[row];
+  for (int row = 1; row <= 15; ++row) table.result(row, group) = slots[row];
 }
 
 bool anyFailure(const CheckTable& table) {
   for (int group = 1; group <= table.lastGroup(); ++group)
     for (int row = 1; row <= table.lastRow(); ++row)
-      if (!table.at(row, COL_RESULT, group).empty()) return true;
+      if (!table.result(row, group).passed()) return true;
   return false;
 }
 

@@ -10,9 +10,9 @@ struct RunContext;
 
 // Writes the headings and titles of both of the run's tables (results are left as they are).
 void layOutCatalogue(RunContext& run);
-// Rows 1..15 of column 0 of `group` := slots 1..15.
+// The results of rows 1..15 of `group` := slots 1..15.
 void storeGroupResults(CheckTable& table, int group, const Slots& slots);
-// True when any result cell of groups 1.. holds text.
+// True when any check row of groups 1.. did not pass (not reached counts as not passed).
 bool anyFailure(const CheckTable& table);
 
 }  // namespace zorvik

@@ -180,11 +180,12 @@ bool RecordWalk::feed(std::string_view line, std::int64_t lineStart, std::int64_
   if (rules_.judgeLength) {
     std::int64_t limit = rules_.wrapped ? MAX_WRAPPED_LINE : MAX_UNWRAPPED_LINE;
     if (lineLength > limit) {
-      lengthFinding_ = (rules_.wrapped ? "Line too long for WRAP YES. Was "
-                                       : "Line too long for WRAP NO. Was ") +
-                       toText(lineLength) +
-                       (rules_.wrapped ? " long. 80 is max." : " long. 256 is max.") + "\r\n" +
-                       std::string(line);
+      lengthFinding_.clear();
+      lengthFinding_.add(Finding{(rules_.wrapped ? "Line too long for WRAP YES. Was "
+                                                 : "Line too long for WRAP NO. Was ") +
+                                     toText(lineLength) +
+                                     (rules_.wrapped ? " long. 80 is max." : " long. 256 is max."),
+                                 std::string(line), lineStart, 0, FindingBreak::None});
       done_ = true;
       return false;
     }
@@ -212,15 +213,15 @@ bool RecordWalk::judgeRecord() {
   return !done_;
 }
 
-void RecordWalk::finish(const LasFile& file, std::string& countFinding,
-                        std::string& lengthFinding) {
+void RecordWalk::finish(const LasFile& file, RowResult& countFinding, RowResult& lengthFinding) {
   if (!done_ && lines_ > 0) judgeRecord();
   done_ = true;
   countFinding.clear();
   if (badValues_ >= 0)
-    countFinding = "Space delimited column count differs from ~Curve channel count. Expected: " +
-                   toText(rules_.expectedValues) + ". Found: " + toText(badValues_) + "\r\n" +
-                   recordText(file, badStart_, badLines_);
+    countFinding.add(
+        Finding{"Space delimited column count differs from ~Curve channel count. Expected: " +
+                    toText(rules_.expectedValues) + ". Found: " + toText(badValues_),
+                recordText(file, badStart_, badLines_), badStart_, 0, FindingBreak::None});
   lengthFinding = lengthFinding_;
 }
 

@@ -79,9 +79,9 @@ class RecordWalk {
   // The same, for a caller that has scanned the line's bytes already.
   bool feed(std::string_view line, std::int64_t lineStart, std::int64_t lineLength,
             const LineBytes& bytes);
-  // At the end of the lines: the findings for the value count and the line length ("" when
+  // At the end of the lines: the findings for the value count and the line length (passed when
   // none). The offending record is read again from `file` for its text.
-  void finish(const LasFile& file, std::string& countFinding, std::string& lengthFinding);
+  void finish(const LasFile& file, RowResult& countFinding, RowResult& lengthFinding);
 
  private:
   bool judgeRecord();
@@ -96,7 +96,7 @@ class RecordWalk {
   int badValues_ = -1;  // value count of the offending record, -1 when none
   int badLines_ = 0;
   std::int64_t badStart_ = 0;
-  std::string lengthFinding_;
+  RowResult lengthFinding_;
 };
 
 // The answers of both walks as group 4's pass left them, with the inputs they were made for; a
@@ -112,8 +112,8 @@ struct DataScan {
   RecordRules rules;
   std::optional<StepAnswer> incrementAnswer;  // none when the pass did not walk the increments
   IncrementResult increments;
-  std::string countFinding;
-  std::string lengthFinding;
+  RowResult countFinding;
+  RowResult lengthFinding;
   // 3.0: rows 1-3 of the column data check, when the pass made them.
   std::optional<Slots> columnData;
 };

@@ -83,12 +83,11 @@ std::int64_t lengthOf(const std::string& fileName) {
 
 }  // namespace
 
-int terminationTest(const LasFile& file, std::string& termination, std::string& ascii,
-                    Fault& fault) {
+LineEnds judgeLineEnds(const LasFile& file, Fault& fault) {
   fault = Fault{};
   if (!file.isOpen()) {
     fault = faultFromErrno(file.openError());
-    return 0;
+    return LineEnds::Undecided;
   }
   std::int64_t length = lengthOf(file.path());
   std::string head, tail;
@@ -103,60 +102,64 @@ int terminationTest(const LasFile& file, std::string& termination, std::string& 
   }
   if (!read) {
     if (fault.number == 0) fault = makeFault(FAULT_DEVICE_IO);
-    return 0;
+    return LineEnds::Undecided;
   }
 
-  if (head.find('\0') != std::string::npos) {
-    ascii = " ";
-    return 1;
-  }
+  if (head.find('\0') != std::string::npos) return LineEnds::NulByte;
   if (head.find("\r\n") != std::string::npos) {
     // Only the head need hold a CR LF: a tail inside one long last line has no line end to judge.
     bool tailOk = tail.find("\r\n") == std::string::npos || neighboursAcceptable(tail, "\r\n");
-    if (neighboursAcceptable(head, "\r\n") && tailOk) return -1;
+    if (neighboursAcceptable(head, "\r\n") && tailOk) return LineEnds::CrLf;
   }
-  if (neighboursAcceptable(head, "\n")) {
-    termination = "Unix Line Feed (ASCII 10) terminated ";
-    return 1;
-  }
-  return 0;
+  if (neighboursAcceptable(head, "\n")) return LineEnds::LineFeed;
+  return LineEnds::Undecided;
 }
 
 RunStatus fileLevelChecks(RunContext& run, Slots& results) {
   const std::string& fileName = run.lasFile;
   results = Slots{};
-  std::string& exists = results[FILE_EXISTS];
-  std::string& size = results[FILE_SIZE];
-  std::string& access = results[FILE_ACCESS];
 
   if (fileExists(fileName)) {
     // Every regular file carries the archive attribute here, so the proof-of-writing open that
     // attribute-less files would get is never needed.
-    if (lengthOf(fileName) < 1) size = "File exists but has zero bytes";
+    if (lengthOf(fileName) < 1) {
+      results[FILE_SIZE] = RowResult::saying("File exists but has zero bytes");
+      return RunStatus::Stopped;
+    }
   } else if (fileAttributes(fileName) > 0) {
-    access = "File exists, but has Hidden Attribute";
+    results[FILE_ACCESS] = RowResult::saying("File exists, but has Hidden Attribute");
+    return RunStatus::Stopped;
   } else {
-    exists = "File does not exist or is not accessible";
-  }
-  if (!exists.empty() || !size.empty() || !access.empty()) return RunStatus::Stopped;
-
-  Fault fault;
-  int outcome =
-      terminationTest(run.source(), results[FILE_TERMINATION], results[FILE_ASCII], fault);
-  if (outcome == 0) {
-    access = accessFailure(fault);
+    results[FILE_EXISTS] = RowResult::saying("File does not exist or is not accessible");
     return RunStatus::Stopped;
   }
 
-  std::string& extension = results[FILE_EXTENSION];
+  Fault fault;
+  switch (judgeLineEnds(run.source(), fault)) {
+    case LineEnds::Undecided:
+      results[FILE_ACCESS] = RowResult::saying(accessFailure(fault));
+      return RunStatus::Stopped;
+    case LineEnds::NulByte:
+      // The report shows this row's failure as a lone blank, without words.
+      results[FILE_ASCII] = RowResult::saying(" ");
+      break;
+    case LineEnds::LineFeed:
+      results[FILE_TERMINATION] = RowResult::saying("Unix Line Feed (ASCII 10) terminated ");
+      break;
+    case LineEnds::CrLf:
+      break;
+  }
+
   if (fileName.size() >= 5) {
-    if (!iequals(right(fileName, 4), ".las")) extension = "File extension is not .LAS ";
+    if (!iequals(right(fileName, 4), ".las"))
+      results[FILE_EXTENSION] = RowResult::saying("File extension is not .LAS ");
   } else {
-    extension = "File name is illegal and/or extension is not .LAS";
+    results[FILE_EXTENSION] =
+        RowResult::saying("File name is illegal and/or extension is not .LAS");
   }
 
   for (int row = FILE_EXISTS; row <= FILE_EXTENSION; ++row)
-    if (!results[row].empty()) return RunStatus::Stopped;
+    if (!results[row].passed()) return RunStatus::Stopped;
   return RunStatus::Completed;
 }
 

@@ -26,15 +26,19 @@ enum FileCheckRow : int {
 };
 
 // Fills slots 1..6 (see FileCheckRow; the others are emptied) and answers RunStatus::Completed when
-// all six are empty, else RunStatus::Stopped. Existence, size or access failing leaves rows 4..6
+// all six pass, else RunStatus::Stopped. Existence, size or access failing leaves rows 4..6
 // empty.
 RunStatus fileLevelChecks(RunContext& run, Slots& results);
 
-// Judges the line ends and the NUL-free head of an existing, non-empty file. Answers 1 with
-// `ascii` = " " for a NUL in the first 4096 bytes, 1 with `termination` set for LF line ends,
-// -1 for CR LF line ends, 0 when undecided or when the file could not be read (then `fault`
-// holds the fault, number 0 when there was none).
-int terminationTest(const LasFile& file, std::string& termination, std::string& ascii,
-                    Fault& fault);
+enum class LineEnds {
+  CrLf,
+  LineFeed,   // lines end at LF alone
+  NulByte,    // a NUL in the first 4096 bytes: not a text file, line ends not judged
+  Undecided,  // neither, or the file could not be read (then `fault` says why)
+};
+
+// Judges the line ends and the NUL-free head of an existing, non-empty file. `fault` is set when
+// the file could not be read (number 0 when there was no fault).
+LineEnds judgeLineEnds(const LasFile& file, Fault& fault);
 
 }  // namespace zorvik

@@ -73,7 +73,7 @@ WellValue wellValue(const ParamTable& wellTable, std::string_view mnemonic) {
 
 CheckStatus evaluate(const Slots& slots) {
   for (int k = 1; k <= 7; ++k)
-    if (!slots[k].empty()) return CheckStatus::Failed;
+    if (!slots[k].passed()) return CheckStatus::Failed;
   return CheckStatus::Passed;
 }
 
@@ -164,8 +164,9 @@ CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::s
       {&well.step, "STEP value missing"},
       {&well.nullValue, "NULL value missing"}};
   for (const auto& [value, message] : required)
-    if (trimView(*value).empty()) slots[1] += std::string(message) + "\r\n";
-  if (!slots[1].empty()) return CheckStatus::Failed;
+    if (trimView(*value).empty())
+      slots[1].add(Finding{message, std::nullopt, 0, 0, FindingBreak::After});
+  if (!slots[1].passed()) return CheckStatus::Failed;
 
   WellValue strt = wellValue(wellTable, "STRT");
   WellValue stop = wellValue(wellTable, "STOP");
@@ -178,9 +179,9 @@ CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::s
   slots[7].clear();
   if (!iequals(stop.unit, strt.unit) || !iequals(step.unit, strt.unit) ||
       !iequals(indexUnit, strt.unit))
-    slots[7] = " Units don't match: STRT=" + shownUnit(strt.unit) +
-               ", STOP=" + shownUnit(stop.unit) + ", STEP=" + shownUnit(step.unit) + ", " +
-               indexMnemonic + "=" + shownUnit(indexUnit);
+    slots[7] = RowResult::saying(
+        " Units don't match: STRT=" + shownUnit(strt.unit) + ", STOP=" + shownUnit(stop.unit) +
+        ", STEP=" + shownUnit(step.unit) + ", " + indexMnemonic + "=" + shownUnit(indexUnit));
 
   int linesPerRecord = 0;
   int bufferLength = 0;
@@ -192,8 +193,8 @@ CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::s
 
   slots[2].clear();
   if (roundTo5(strt.number) != ends.first)
-    slots[2] = "STRT = " + formatShortest(strt.number) +
-               ", First ~ASCII index = " + formatShortest(ends.first);
+    slots[2] = RowResult::saying("STRT = " + formatShortest(strt.number) +
+                                 ", First ~ASCII index = " + formatShortest(ends.first));
 
   slots[3].clear();
   std::string stopText = trim(well.stop);
@@ -201,8 +202,8 @@ CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::s
   bool stopIsNull = stop.number == leadingNumber(nullText) && iequals(stopText, nullText);
   if (!stopIsNull) {
     if (formatFixed(ends.last) != formatFixed(stop.number))
-      slots[3] = "STOP = " + formatShortest(stop.number) +
-                 ", Last ~ASCII index = " + formatShortest(ends.last);
+      slots[3] = RowResult::saying("STOP = " + formatShortest(stop.number) +
+                                   ", Last ~ASCII index = " + formatShortest(ends.last));
   } else {
     // A file written in real time leaves STOP at NULL: the driver takes it from the data.
     if (nullStopLastIndex == nullptr) return CheckStatus::Fault;
@@ -216,9 +217,10 @@ CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::s
   std::string_view stepDigits = trimChar(step.text, '0');
   if (contains(stepDigits, '.') && contains(ends.lastText, '.') &&
       decimalsOf(ends.lastText) < decimalsOf(stepDigits))
-    slots[5] = "Index channel does not carry enough precision for STEP. " +
-               std::string(" Index has ") + toText(decimalsOf(ends.lastText)) +
-               " decimals while STEP has " + toText(decimalsOf(stepDigits)) + " decimals";
+    slots[5] = RowResult::saying("Index channel does not carry enough precision for STEP. " +
+                                 std::string(" Index has ") + toText(decimalsOf(ends.lastText)) +
+                                 " decimals while STEP has " + toText(decimalsOf(stepDigits)) +
+                                 " decimals");
 
   // Group 4's pass may already have walked the increments of this very data.
   IncrementResult increments;
@@ -234,22 +236,24 @@ CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::s
   switch (answer) {
     case StepAnswer::Constant:
       if (stepZero)
-        slots[4] =
+        slots[4] = RowResult::saying(
             "~Well STEP value is 0.0 (implies non-constant step) but the STEP as read from ~" +
-            dataName + " section was constant @ " + formatFixed(increments.increment);
+            dataName + " section was constant @ " + formatFixed(increments.increment));
       else if (formatFixed(step.number) != formatFixed(increments.increment))
-        slots[4] = "~Well STEP value = " + formatFixed(step.number) + ", last read increment @ " +
-                   increments.indexText + " was " + formatFixed(increments.increment);
+        slots[4] = RowResult::saying("~Well STEP value = " + formatFixed(step.number) +
+                                     ", last read increment @ " + increments.indexText + " was " +
+                                     formatFixed(increments.increment));
       break;
     case StepAnswer::Varies:
       if (stepZero) break;
       if (std::fabs(step.number - increments.increment) <= tolerance)
-        slots[6] = "Possible rounding error? STEP value = " + step.text +
-                   ", last read increment @ " + increments.indexText + " was " +
-                   formatFixed(increments.increment);
+        slots[6] = RowResult::saying("Possible rounding error? STEP value = " + step.text +
+                                     ", last read increment @ " + increments.indexText + " was " +
+                                     formatFixed(increments.increment));
       else
-        slots[4] = "STEP no longer constant at : " + formatFixed(increments.index) + " (" +
-                   formatFixed(increments.increment) + ")";
+        slots[4] =
+            RowResult::saying("STEP no longer constant at : " + formatFixed(increments.index) +
+                              " (" + formatFixed(increments.increment) + ")");
       break;
     case StepAnswer::Unreadable:
       return evaluate(slots);

@@ -33,19 +33,19 @@ char rowLetter(int row) {
 // Appends the rows of one group; true when one of its listed checks failed.
 bool appendGroup(const CheckTable& table, int group, std::string& out) {
   bool failed = false;
-  out += twoDigits(group) + ": " + table.at(0, COL_RESULT, group) + kEol;
+  out += twoDigits(group) + ": " + table.at(0, COL_HEADING, group) + kEol;
   for (int row = 1; row <= table.lastRow(); ++row) {
     const std::string& title = table.at(row, COL_TITLE, group);
     if (title.empty()) continue;
-    const std::string& result = table.at(row, COL_RESULT, group);
+    const RowResult& result = table.result(row, group);
     std::string label = std::string(1, rowLetter(row)) + ". " + title;
-    if (result.empty()) {
+    if (result.passed()) {
       out += "        " + label + kEol;
       const std::string& note = table.at(row, COL_NOTE, group);
       if (!note.empty()) out += "Note: " + replaceAll(note, "\r\n", "\r\nNote: ") + kEol;
     } else {
       out += "Failed: " + label + kEol;
-      out += "Errors: " + replaceAll(result, "\r\n", "\r\nErrors: ") + kEol;
+      out += "Errors: " + replaceAll(result.text(), "\r\n", "\r\nErrors: ") + kEol;
       failed = true;
     }
   }
@@ -82,7 +82,7 @@ std::string buildReport(const RunContext& run, const std::string& dateText) {
   out += kEol;
   // Listing stops with the first group holding a failed check: later groups were not reached.
   for (int group = 1; group <= table.lastGroup(); ++group) {
-    if (table.at(0, COL_RESULT, group).empty()) continue;
+    if (table.at(0, COL_HEADING, group).empty()) continue;
     if (appendGroup(table, group, out)) break;
   }
   return out;

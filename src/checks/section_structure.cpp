@@ -24,6 +24,7 @@ struct Title {
   int index = -1;
   std::string association;
   SectionRole role = SectionRole::Other;
+  std::int64_t position = 0;  // of the title line
 };
 
 std::vector<Title> titlesOf(const std::vector<SectionEntry>& sections) {
@@ -32,6 +33,7 @@ std::vector<Title> titlesOf(const std::vector<SectionEntry>& sections) {
   for (const SectionEntry& s : sections) {
     Title t;
     t.text = s.name;
+    t.position = s.titleStart;
     int index = -1;
     t.name = splitArrayIndex(s.name, index);
     t.index = s.arrayIndex;
@@ -67,9 +69,13 @@ bool containsAnyOf(std::string_view s, std::initializer_list<std::string_view> w
 
 // Appends a title and a line break unless the title is listed already. Whole titles are compared
 // (ignoring case), so a title is never hidden by a longer one that contains it.
-void appendOnce(std::string& slot, std::unordered_set<std::string>& listed,
-                const std::string& title) {
-  if (listed.insert(toUpper(title)).second) slot.append(title).append(CRLF);
+// A finding about one title line: its words, then a line break.
+void addTitleFinding(RowResult& slot, std::string words, const Title& title) {
+  slot.add(Finding{std::move(words), std::nullopt, title.position, 0, FindingBreak::After});
+}
+
+void appendOnce(RowResult& slot, std::unordered_set<std::string>& listed, const Title& title) {
+  if (listed.insert(toUpper(title.text)).second) addTitleFinding(slot, title.text, title);
 }
 
 // Names are compared ignoring case, so upper-cased texts serve as keys. Each rule below compares
@@ -126,7 +132,8 @@ std::vector<std::size_t> pairedInWalkOrder(const std::vector<std::vector<std::si
   return order;
 }
 
-void minimumSections2(const std::vector<Title>& titles, std::string& slot) {
+void minimumSections2(const std::vector<Title>& titles, RowResult& row) {
+  std::string slot;
   bool version = false, well = false, curve = false, ascii = false;
   for (const Title& t : titles) {
     version = version || isOneOf(t.name, {"Version", "V"});
@@ -141,6 +148,7 @@ void minimumSections2(const std::vector<Title>& titles, std::string& slot) {
   if (!curve) slot += "~Curve ";
   if (!ascii) slot += "~ASCII ";
   if (!slot.empty()) slot.insert(0, " sections missing are : ");
+  row = RowResult::saying(slot);
 }
 
 // A _data title and a _Definition title form a set when their suffixes start at the same place:
@@ -157,7 +165,8 @@ bool hasMatchingSetPair(const std::vector<Title>& titles) {
 }
 
 void minimumSections3(const std::vector<Title>& titles, const SectionIndex& sections,
-                      std::string& slot) {
+                      RowResult& row) {
+  std::string slot;
   bool version = false, well = false, definition = false, data = false;
   for (const Title& t : titles) {
     version = version || iequals(t.name, "Version");
@@ -172,31 +181,33 @@ void minimumSections3(const std::vector<Title>& titles, const SectionIndex& sect
   if (!well) slot = "~Well";
   if (!definition && !data && !hasMatchingSetPair(titles))
     slot += "Minumum one set of Matching _Data/_Definition sections not found";
+  row = RowResult::saying(slot);
 }
 
-void recognisedNames(const std::vector<Title>& titles, std::string& slot) {
+void recognisedNames(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   for (const Title& t : titles) {
     if (isOneOf(t.name, {"Well", "Version", "Parameter", "Curve", "ASCII"})) continue;
     if (containsAnyOf(t.name, {"_Definition", "_Data", "_Parameter"})) continue;
     // The title as written tells the user which line to look at, index and all (a title whose
     // index cannot be read has no name at all).
-    slot.append("Illegal section is ~").append(t.text).append(CRLF);
+    addTitleFinding(slot, "Illegal section is ~" + t.text, t);
   }
 }
 
-void firstAndSecond(const std::vector<Title>& titles, std::string& slot) {
+void firstAndSecond(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   if (titles.size() < 2) return;
   if (!iequals(titles[0].text, "Version") || !iequals(titles[1].text, "Well"))
-    slot = "1st and 2nd sections are ~" + titles[0].text + " then ~" + titles[1].text;
+    slot = RowResult::saying("1st and 2nd sections are ~" + titles[0].text + " then ~" +
+                             titles[1].text);
 }
 
 // Titles whose index could not be read have no section name; item 2 reports them, and they are
 // kept out of the comparisons by name so that they do not pair up with each other.
 // Two titles of one name are duplicates when both lack an index or carry the same one; a second
 // ~Version or ~Well is a duplicate whatever its index.
-void duplicates3(const std::vector<Title>& titles, std::string& slot) {
+void duplicates3(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   const auto classes = classesOf(titles, [](const Title& t, std::string& key) {
     if (t.name.empty()) return false;
@@ -206,11 +217,11 @@ void duplicates3(const std::vector<Title>& titles, std::string& slot) {
   });
   std::unordered_set<std::string> listed;
   for (std::size_t j : pairedInWalkOrder(classes, titles.size()))
-    appendOnce(slot, listed, titles[j].text);
+    appendOnce(slot, listed, titles[j]);
 }
 
 // Older files tell their sections apart by the first letter of the title.
-void duplicates2(const std::vector<Title>& titles, std::string& slot) {
+void duplicates2(const std::vector<Title>& titles, RowResult& slot) {
   const auto classes = classesOf(titles, [](const Title& t, std::string& key) {
     if (t.text.empty()) return false;
     key = std::string(1, toUpperAscii(t.text[0]));
@@ -223,46 +234,45 @@ void duplicates2(const std::vector<Title>& titles, std::string& slot) {
     if (!list.empty()) list += ", ";
     list += titles[j].text;
   }
-  slot = list.empty() ? std::string() : "Duplicate section titles : " + list;
+  slot = RowResult::saying(list.empty() ? std::string() : "Duplicate section titles : " + list);
 }
 
-void dataTitleDelimiter(const std::vector<Title>& titles, std::string& slot) {
+void dataTitleDelimiter(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   for (const Title& t : titles) {
     if (t.role != SectionRole::Data || iequals(t.text, "ASCII")) continue;
-    if (t.association.empty() || t.association == " ") slot.append(t.text).append(CRLF);
+    if (t.association.empty() || t.association == " ") addTitleFinding(slot, t.text, t);
   }
 }
 
-void matchingAssociation(const std::vector<Title>& titles, std::string& slot) {
+void matchingAssociation(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   for (const Title& t : titles) {
     if (t.role != SectionRole::Data) continue;
     if (iequals(t.text, "ASCII")) {
       if (!t.association.empty() && !iequals(t.association, "Curve"))
-        slot.append("Associated Column definition section must be Curve, not ")
-            .append(t.association)
-            .append(CRLF);
+        addTitleFinding(
+            slot, "Associated Column definition section must be Curve, not " + t.association, t);
     } else if (contains(t.text, '_') && contains(t.association, '_')) {
       if (!iequals(upToUnderscore(t.text), upToUnderscore(t.association))) {
-        slot.append(t.text).append(CRLF);
+        addTitleFinding(slot, t.text, t);
         return;
       }
     } else {
-      slot.append(t.text).append(CRLF);
+      addTitleFinding(slot, t.text, t);
     }
   }
 }
 
-void definitionSuffix(const std::vector<Title>& titles, std::string& slot) {
+void definitionSuffix(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   for (const Title& t : titles) {
     if (icontains(t.text, "_DATA") && !icontains(t.association, "_Definition"))
-      slot.append(t.text).append("|").append(t.association).append(CRLF);
+      addTitleFinding(slot, t.text + "|" + t.association, t);
   }
 }
 
-void definitionExists(const std::vector<Title>& titles, std::string& slot) {
+void definitionExists(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   Counts texts;
   for (const Title& t : titles) ++texts[toUpper(t.text)];
@@ -270,11 +280,11 @@ void definitionExists(const std::vector<Title>& titles, std::string& slot) {
     if (!icontains(t.association, "_Definition")) continue;
     const auto it = texts.find(toUpper(t.association));
     const int all = it == texts.end() ? 0 : it->second;
-    if (all - (iequals(t.text, t.association) ? 1 : 0) == 0) slot.append(t.text).append(CRLF);
+    if (all - (iequals(t.text, t.association) ? 1 : 0) == 0) addTitleFinding(slot, t.text, t);
   }
 }
 
-void definitionHasData(const std::vector<Title>& titles, std::string& slot) {
+void definitionHasData(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   Counts dataBases;
   for (const Title& t : titles)
@@ -283,27 +293,28 @@ void definitionHasData(const std::vector<Title>& titles, std::string& slot) {
     if (!icontains(t.text, "_Definition")) continue;
     const auto it = dataBases.find(toUpper(baseName(t.text)));
     const int all = it == dataBases.end() ? 0 : it->second;
-    if (all - (t.role == SectionRole::Data ? 1 : 0) == 0) slot.append(t.text).append(CRLF);
+    if (all - (t.role == SectionRole::Data ? 1 : 0) == 0) addTitleFinding(slot, t.text, t);
   }
 }
 
-void noAssociationOnHeaders(const std::vector<Title>& titles, std::string& slot) {
+void noAssociationOnHeaders(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   for (const Title& t : titles) {
     const bool applies = containsAnyOf(t.text, {"Version", "Well", "_Parameter", "_Definition"}) ||
                          isOneOf(t.name, {"Parameter", "Curve"});
     if (!applies || t.association.empty()) continue;
-    slot.append("~").append(t.text);
-    if (t.association == " ")
-      slot.append(" section title has a illegal | delimiter");
-    else
-      slot.append(
-          " section title has a illegal | delimiter AND an illegal association section title.");
-    slot.append(CRLF);
+    addTitleFinding(
+        slot,
+        "~" + t.text +
+            (t.association == " "
+                 ? " section title has a illegal | delimiter"
+                 : " section title has a illegal | delimiter AND an illegal association section "
+                   "title."),
+        t);
   }
 }
 
-void setOrder(const std::vector<Title>& titles, std::string& slot) {
+void setOrder(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   const auto places = firstPlaces(titles);
   for (std::size_t k = 0; k < titles.size(); ++k) {
@@ -320,24 +331,23 @@ void setOrder(const std::vector<Title>& titles, std::string& slot) {
     const int paramPos = positionOf(places, parameter);
     const int dataPos = static_cast<int>(k);
     if (defPos == -1) {
-      slot.append("Missing ").append(definition).append(CRLF);
+      addTitleFinding(slot, "Missing " + definition, data);
     } else if (paramPos != -1) {
       if (!(paramPos < defPos && defPos < dataPos))
-        slot.append("Expected order: ")
-            .append(parameter + "/" + definition + "/" + data.text)
-            .append(CRLF);
+        addTitleFinding(slot, "Expected order: " + parameter + "/" + definition + "/" + data.text,
+                        data);
     } else if (!(defPos < dataPos)) {
-      slot.append("Expected order: ").append(definition + "/" + data.text).append(CRLF);
+      addTitleFinding(slot, "Expected order: " + definition + "/" + data.text, data);
     }
   }
 }
 
-void noIndexOnFixedSections(const std::vector<Title>& titles, std::string& slot) {
+void noIndexOnFixedSections(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   for (const Title& t : titles) {
     const std::string_view base = baseName(t.text);
     if (t.index != -1 && isOneOf(base, {"Version", "Well", "Curve", "Parameter", "ASCII"}))
-      slot.append(base).append(CRLF);
+      addTitleFinding(slot, std::string(base), t);
   }
 }
 
@@ -352,28 +362,30 @@ std::vector<std::vector<std::size_t>> groupsByName(const std::vector<Title>& tit
   });
 }
 
-void identicalTitlesIndexed(const std::vector<Title>& titles, std::string& slot) {
+void identicalTitlesIndexed(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   std::unordered_set<std::string> listed;
   for (const auto& group : groupsByName(titles, [](const Title&) { return true; })) {
     if (group.size() < 2) continue;
     for (std::size_t i : group)
-      if (titles[i].index == -1) appendOnce(slot, listed, titles[i].text);
+      if (titles[i].index == -1) appendOnce(slot, listed, titles[i]);
   }
 }
 
-void sequentialIndexes(const std::vector<Title>& titles, std::string& slot) {
+void sequentialIndexes(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   for (const auto& group : groupsByName(titles, [](const Title& t) { return t.index != -1; })) {
     if (group.size() == 1) {
-      if (titles[group[0]].index != 1) slot.append(titles[group[0]].text).append(CRLF);
+      if (titles[group[0]].index != 1)
+        addTitleFinding(slot, titles[group[0]].text, titles[group[0]]);
       continue;
     }
     std::vector<int> indexes;
     for (std::size_t i : group) indexes.push_back(titles[i].index);
     std::stable_sort(indexes.begin(), indexes.end());
     for (std::size_t k = 0; k < indexes.size(); ++k)
-      if (indexes[k] != static_cast<int>(k + 1)) slot.append(titles[group[0]].name).append(CRLF);
+      if (indexes[k] != static_cast<int>(k + 1))
+        addTitleFinding(slot, titles[group[0]].name, titles[group[0]]);
   }
 }
 
@@ -382,7 +394,10 @@ void sequentialIndexes(const std::vector<Title>& titles, std::string& slot) {
 CheckStatus checkSectionStructure(RunContext& run, Slots& slots) {
   try {
     const bool v3 = run.isV3();
-    for (int k = 1; k <= 14; ++k) slots[k] = (v3 || k <= 3) ? " " : "";
+    for (int k = 1; k <= 14; ++k) {
+      slots[k].clear();
+      if (v3 || k <= 3) slots[k].markNotReached();
+    }
 
     if (run.sections.entries.empty() && !buildSectionIndex(run.source(), run.dialect, run.sections))
       return CheckStatus::Fault;
@@ -410,7 +425,7 @@ CheckStatus checkSectionStructure(RunContext& run, Slots& slots) {
       sequentialIndexes(titles, slots[14]);
     }
     for (int k = 1; k <= 14; ++k)
-      if (!slots[k].empty()) return CheckStatus::Failed;
+      if (!slots[k].passed()) return CheckStatus::Failed;
     return CheckStatus::Passed;
   } catch (const std::exception&) {
     return CheckStatus::Fault;

@@ -24,47 +24,53 @@ std::string describeCharacter(unsigned char c) {
   return std::string(1, static_cast<char>(c));
 }
 
-void judgeLine3(std::string_view line, std::string& slot) {
+void add(RowResult& slot, std::string_view words, std::string_view quoted, std::int64_t start,
+         FindingBreak lineBreak) {
+  slot.add(Finding{std::string(words), std::string(quoted), start, 0, lineBreak});
+}
+
+// Each finding of this pass ends with a line break.
+void judgeLine3(std::string_view line, std::int64_t start, RowResult& slot) {
   const std::string_view trimmed = trimView(line);
   if (!trimmed.empty() && trimmed.front() == '#') return;  // a comment may mention a tilde
   if (trimmed.find('~') != 0) {
-    slot.append(NOT_FIRST).append(CRLF).append(line).append(CRLF);
+    add(slot, NOT_FIRST, line, start, FindingBreak::After);
   } else if (trimmed.size() < 2) {
-    slot.append(MISSING_TITLE).append(CRLF).append(trimmed).append(CRLF);
+    add(slot, MISSING_TITLE, trimmed, start, FindingBreak::After);
   } else if (std::string_view("][|\t, ").find(trimmed[1]) != std::string_view::npos) {
-    slot.append("Tilde followed by illegal characters; space, comma, tab, | or [ ]")
-        .append(CRLF)
-        .append(trimmed)
-        .append(CRLF);
+    add(slot, "Tilde followed by illegal characters; space, comma, tab, | or [ ]", trimmed, start,
+        FindingBreak::After);
   }
 }
 
-// The entries of this pass that quote the offending line end with the line itself, so a following
-// entry continues on the same report line; the missing-title entry alone ends with a line break.
-void judgeLine2(std::string_view line, std::string& slot) {
+// The findings of this pass that quote the offending line end with the line itself, so a
+// following one continues on the same report line; the missing-title finding alone ends with a
+// line break.
+void judgeLine2(std::string_view line, std::int64_t start, RowResult& slot) {
   const std::string_view trimmed = trimView(line);
   if (trimmed.find('~') != 0) {
-    slot.append(NOT_FIRST).append(CRLF).append(line);
+    add(slot, NOT_FIRST, line, start, FindingBreak::None);
   } else if (trimmed.size() < 2) {
-    slot.append(MISSING_TITLE).append(CRLF).append(trimmed).append(CRLF);
+    add(slot, MISSING_TITLE, trimmed, start, FindingBreak::After);
   } else {
     const auto c = static_cast<unsigned char>(trimmed[1]);
     if (c >= 'A' && c <= 'Z') return;
-    slot.append("Tilde not followed by upper case letter, A-Z. Character was ")
-        .append(describeCharacter(c))
-        .append(" on line:")
-        .append(CRLF)
-        .append(trimmed);
+    add(slot,
+        "Tilde not followed by upper case letter, A-Z. Character was " + describeCharacter(c) +
+            " on line:",
+        trimmed, start, FindingBreak::None);
   }
 }
 
-CheckStatus runPass(const LasFile& file, std::string& slot, TildeLines* known,
-                    void (*judge)(std::string_view, std::string&)) {
+CheckStatus runPass(const LasFile& file, RowResult& slot, TildeLines* known,
+                    void (*judge)(std::string_view, std::int64_t, RowResult&)) {
   try {
     const bool read = forEachTildeLine(
-        file, known, [&](std::string_view line, std::int64_t /*next*/) { judge(line, slot); });
+        file, known, [&](std::string_view line, std::int64_t start, std::int64_t /*next*/) {
+          judge(line, start, slot);
+        });
     if (!read) return CheckStatus::Fault;
-    return slot.empty() ? CheckStatus::Passed : CheckStatus::Failed;
+    return slot.passed() ? CheckStatus::Passed : CheckStatus::Failed;
   } catch (const std::exception&) {
     return CheckStatus::Fault;
   }
@@ -72,11 +78,11 @@ CheckStatus runPass(const LasFile& file, std::string& slot, TildeLines* known,
 
 }  // namespace
 
-CheckStatus checkTitleLines3(const LasFile& file, std::string& slot, TildeLines* known) {
+CheckStatus checkTitleLines3(const LasFile& file, RowResult& slot, TildeLines* known) {
   return runPass(file, slot, known, judgeLine3);
 }
 
-CheckStatus checkTitleLines2(const LasFile& file, std::string& slot, TildeLines* known) {
+CheckStatus checkTitleLines2(const LasFile& file, RowResult& slot, TildeLines* known) {
   return runPass(file, slot, known, judgeLine2);
 }
 

@@ -2,7 +2,7 @@
 // one with the 3.0 rules, one with the 1.2/2.0 rules. Each reads the file itself, from the first
 // line to the last, independently of the section model.
 //
-// Both append findings to `slot` and return CheckStatus::Passed when the slot is empty at the end,
+// Both add findings to `slot` and return CheckStatus::Passed when the slot passes at the end,
 // CheckStatus::Failed when it is not, CheckStatus::Fault when the file cannot be opened (slot left
 // as it was). Never throw.
 #pragma once
@@ -17,7 +17,7 @@ namespace zorvik {
 
 // With `known`, tilde lines an earlier search of the same file kept are read from there, and what
 // this search finds is kept there.
-CheckStatus checkTitleLines3(const LasFile& file, std::string& slot, TildeLines* known = nullptr);
-CheckStatus checkTitleLines2(const LasFile& file, std::string& slot, TildeLines* known = nullptr);
+CheckStatus checkTitleLines3(const LasFile& file, RowResult& slot, TildeLines* known = nullptr);
+CheckStatus checkTitleLines2(const LasFile& file, RowResult& slot, TildeLines* known = nullptr);
 
 }  // namespace zorvik

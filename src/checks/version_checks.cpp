@@ -66,9 +66,9 @@ ParamPlaces placeParams(const ParamTable& table) {
   return places;
 }
 
-bool allEmpty(const Slots& slots) {
+bool allPassed(const Slots& slots) {
   for (int k = 1; k <= 9; ++k) {
-    if (!slots[k].empty()) return false;
+    if (!slots[k].passed()) return false;
   }
   return true;
 }
@@ -78,32 +78,32 @@ bool allEmpty(const Slots& slots) {
 CheckStatus checkVersionSection(RunContext& run, const ParamTable& versionTable,
                                 std::string& wrapValue, Slots& slots) {
   const bool v3 = run.isV3();
-  slots.fill("");
-  for (int k = 1; k <= (v3 ? 9 : 6); ++k) slots[k] = kBlank;
+  slots.fill(RowResult{});
+  for (int k = 1; k <= (v3 ? 9 : 6); ++k) slots[k].markNotReached();
   wrapValue = kBlank;
 
   if (!versionSectionPresent(run.sections, v3)) {
-    slots[1] = "Version section not found";
+    slots[1] = RowResult::saying("Version section not found");
     return CheckStatus::Failed;
   }
 
   // Presence of the mnemonics; without them the values cannot be judged.
   slots[1].clear();
   const std::string vers = mnemonicValue(versionTable, "VERS");
-  slots[2] = vers == kBlank ? "VERS mnemonic missing. " : "";
+  slots[2] = RowResult::saying(vers == kBlank ? "VERS mnemonic missing. " : "");
   wrapValue = mnemonicValue(versionTable, "WRAP");
-  slots[3] = wrapValue == kBlank ? "WRAP mnemonic missing. " : "";
+  slots[3] = RowResult::saying(wrapValue == kBlank ? "WRAP mnemonic missing. " : "");
   slots[4].clear();
   std::string dlm = kBlank;
   if (v3) {
     dlm = mnemonicValue(versionTable, "DLM");
-    if (dlm == kBlank) slots[4] = "DLM mnemonic missing. ";
+    if (dlm == kBlank) slots[4] = RowResult::saying("DLM mnemonic missing. ");
   }
-  if (!slots[1].empty() || !slots[2].empty() || !slots[3].empty() || !slots[4].empty()) {
+  if (!slots[1].passed() || !slots[2].passed() || !slots[3].passed() || !slots[4].passed()) {
     return CheckStatus::Failed;
   }
 
-  slots[5] = versValueFinding(vers, run.dialect.version);
+  slots[5] = RowResult::saying(versValueFinding(vers, run.dialect.version));
   if (!v3) {
     // The 1.2/2.0 catalogue judges the VERS value in row 4.
     slots[4] = slots[5];
@@ -111,13 +111,15 @@ CheckStatus checkVersionSection(RunContext& run, const ParamTable& versionTable,
   }
 
   if (v3) {
-    slots[6] = iequals(wrapValue, "NO") ? "" : "Invalid WRAP value was, '" + wrapValue + "'";
+    slots[6] = RowResult::saying(
+        iequals(wrapValue, "NO") ? "" : "Invalid WRAP value was, '" + wrapValue + "'");
   } else {
     slots[7].clear();
     slots[8].clear();
     slots[5].clear();
     if (!iequals(wrapValue, "YES") && !iequals(wrapValue, "NO")) {
-      slots[5] = "Invalid WRAP value was, '" + wrapValue + "', must be NO or YES";
+      slots[5] =
+          RowResult::saying("Invalid WRAP value was, '" + wrapValue + "', must be NO or YES");
     }
   }
 
@@ -133,9 +135,9 @@ CheckStatus checkVersionSection(RunContext& run, const ParamTable& versionTable,
   if (!v3) slots[6].clear();
   if (duplicates) {
     if (v3) {
-      slots[9] = "More than one VERS, WRAP or DLM parameter data line found";
+      slots[9] = RowResult::saying("More than one VERS, WRAP or DLM parameter data line found");
     } else {
-      slots[9] = "More than one VERS, WRAP parameter data line found";
+      slots[9] = RowResult::saying("More than one VERS, WRAP parameter data line found");
       slots[6] = slots[9];
     }
   }
@@ -145,16 +147,17 @@ CheckStatus checkVersionSection(RunContext& run, const ParamTable& versionTable,
     for (int k = 0; k < 3; ++k) {
       int position = places.position[k];
       if (position < 1 || position > 3) {
-        slots[8] += std::string(kPlacedNames[k]) + " not 1st, 2nd or 3rd. It was " +
-                    toText(position) + "th\r\n";
+        slots[8].add(Finding{std::string(kPlacedNames[k]) + " not 1st, 2nd or 3rd. It was " +
+                                 toText(position) + "th",
+                             std::nullopt, 0, 0, FindingBreak::After});
       }
     }
   }
-  if (!slots[8].empty() && (!slots[2].empty() || !slots[3].empty() || !slots[4].empty())) {
+  if (!slots[8].passed() && (!slots[2].passed() || !slots[3].passed() || !slots[4].passed())) {
     slots[8].clear();
   }
 
-  return allEmpty(slots) ? CheckStatus::Passed : CheckStatus::Failed;
+  return allPassed(slots) ? CheckStatus::Passed : CheckStatus::Failed;
 }
 
 std::string delimiterForWord(std::string_view dlmValue) {

@@ -16,10 +16,11 @@ enum class SectionRole { Header, Data, Definition, Parameter, Other };
 // One entry of the section index. Sections are numbered 1..n in file order; section number n is
 // element n - 1 of the index.
 struct SectionEntry {
-  std::string name;         // first word of the title after "~"
-  std::string association;  // first word after "|"; " " for a bare "|"; "" without one
-  std::int64_t start = 0;   // 1-based position of the line after the title line
-  int arrayIndex = -1;      // n of a trailing "[n]", -1 without brackets
+  std::string name;             // first word of the title after "~"
+  std::string association;      // first word after "|"; " " for a bare "|"; "" without one
+  std::int64_t start = 0;       // 1-based position of the line after the title line
+  std::int64_t titleStart = 0;  // 1-based position of the title line itself
+  int arrayIndex = -1;          // n of a trailing "[n]", -1 without brackets
   SectionRole role = SectionRole::Other;
 };
 

@@ -115,13 +115,14 @@ bool buildSectionIndex(const LasFile& file, const Dialect& dialect, SectionIndex
 
   // Every title holds a tilde: only the lines that hold one are read as lines.
   std::string association;
-  const bool read =
-      forEachTildeLine(file, &index.tildeLines, [&](std::string_view line, std::int64_t next) {
+  const bool read = forEachTildeLine(
+      file, &index.tildeLines, [&](std::string_view line, std::int64_t start, std::int64_t next) {
         if (!isTitleLine(line)) return;
         std::string name = parseTitleLine(line, association);
         if (name.empty()) return;
         SectionEntry entry;
         entry.start = next;
+        entry.titleStart = start;
         splitArrayIndex(name, entry.arrayIndex);
         if (!v3 && iequals(name, "ASCII") && trimView(association).empty()) association = "Curve";
         entry.name = std::move(name);

@@ -12,20 +12,19 @@ constexpr std::size_t BLOCK_BYTES = 256 * 1024;
 
 }  // namespace
 
-bool forEachTildeLine(const LasFile& file, TildeLines* known,
-                      const std::function<void(std::string_view line, std::int64_t next)>& visit) {
+bool forEachTildeLine(const LasFile& file, TildeLines* known, const TildeVisitor& visit) {
   if (!file.isOpen()) return false;
   const std::optional<LasFile::Stamp> before = file.stamp();
   if (known != nullptr && known->stamp_ && known->stamp_ == before) {
     for (const TildeLines::Line& kept : known->lines_)
-      visit(std::string_view(known->text_).substr(kept.offset, kept.length), kept.next);
+      visit(std::string_view(known->text_).substr(kept.offset, kept.length), kept.start, kept.next);
     return true;
   }
   // What this search finds is kept while it fits, and only for a file that did not change under it.
   TildeLines found;
   bool keeping = known != nullptr && before.has_value();
-  const auto see = [&](std::string_view line, std::int64_t next) {
-    visit(line, next);
+  const auto see = [&](std::string_view line, std::int64_t start, std::int64_t next) {
+    visit(line, start, next);
     if (!keeping) return;
     if (found.text_.size() + line.size() + found.lines_.size() * sizeof(TildeLines::Line) >
         TildeLines::kMaxBytes) {
@@ -33,7 +32,7 @@ bool forEachTildeLine(const LasFile& file, TildeLines* known,
       found = TildeLines{};
       return;
     }
-    found.lines_.push_back(TildeLines::Line{found.text_.size(), line.size(), next});
+    found.lines_.push_back(TildeLines::Line{found.text_.size(), line.size(), start, next});
     found.text_.append(line);
   };
 
@@ -66,7 +65,7 @@ bool forEachTildeLine(const LasFile& file, TildeLines* known,
       reader.seek(lineStart);
       reader.readLine(line);
       lineStart = reader.position();
-      see(line, lineStart);
+      see(line, reader.lineStart(), lineStart);
       if (lineStart >= next) break;
       from = static_cast<std::size_t>(lineStart - blockStart);
     }

@@ -20,6 +20,10 @@
 
 namespace zorvik {
 
+// Called with a tilde line, the 1-based position of its first byte and that of the line after it.
+using TildeVisitor =
+    std::function<void(std::string_view line, std::int64_t start, std::int64_t next)>;
+
 // The tilde lines of one file as a search found them, for as long as the file stays as it was.
 // Kept only up to kMaxBytes, so a file of tildes on every line is simply searched again.
 class TildeLines {
@@ -27,13 +31,12 @@ class TildeLines {
   static constexpr std::size_t kMaxBytes = 4 << 20;
 
  private:
-  friend bool forEachTildeLine(
-      const LasFile& file, TildeLines* known,
-      const std::function<void(std::string_view line, std::int64_t next)>& visit);
+  friend bool forEachTildeLine(const LasFile& file, TildeLines* known, const TildeVisitor& visit);
 
   struct Line {
     std::size_t offset;  // into text_
     std::size_t length;
+    std::int64_t start;
     std::int64_t next;
   };
   std::optional<LasFile::Stamp> stamp_;  // of the file they were found in; none: nothing kept
@@ -41,15 +44,11 @@ class TildeLines {
   std::vector<Line> lines_;
 };
 
-// Calls `visit` with every line that holds a "~", in file order, and the 1-based position of the
-// line after it. With `known`, lines kept there for the same, unchanged file are given without
-// reading it, and otherwise what this search finds is kept there. False when the file is not
-// open. Exceptions from `visit` pass through.
-bool forEachTildeLine(const LasFile& file, TildeLines* known,
-                      const std::function<void(std::string_view line, std::int64_t next)>& visit);
-inline bool forEachTildeLine(
-    const LasFile& file,
-    const std::function<void(std::string_view line, std::int64_t next)>& visit) {
+// Calls `visit` with every line that holds a "~", in file order. With `known`, lines kept there for
+// the same, unchanged file are given without reading it, and otherwise what this search finds is
+// kept there. False when the file is not open. Exceptions from `visit` pass through.
+bool forEachTildeLine(const LasFile& file, TildeLines* known, const TildeVisitor& visit);
+inline bool forEachTildeLine(const LasFile& file, const TildeVisitor& visit) {
   return forEachTildeLine(file, nullptr, visit);
 }
 

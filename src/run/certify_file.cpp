@@ -13,7 +13,7 @@
 #include "checks/file_checks.h"
 #include "checks/report.h"
 #include "checks/run_context.h"
-#include "las/line_reader.h"
+#include "las/line_numbers.h"
 #include "run/run_start.h"
 #include "run/version_sniff.h"
 
@@ -27,68 +27,28 @@ std::string versionText(float version) {
   return text;
 }
 
-// --- Findings out of result texts -------------------------------------------------------------
-// Until the checks hand over typed findings, a result text is taken apart here: entries of
-// CR LF, the finding's words, CR LF, the offending line; or one plain text without a line
-// (group 1). Line numbers are then found by looking for the quoted lines in the file.
+// --- Line numbers -----------------------------------------------------------------------------
+// The checks note where each finding's line starts; one reading of the file turns those places
+// into line numbers, and a quote becomes the line exactly as the file holds it (a check may show
+// it trimmed, or with its tabs as "<Tab>").
 
-std::vector<Finding> findingsOf(const std::string& result) {
-  std::vector<Finding> findings;
-  if (result.empty() || result == " ") return findings;
-  if (!result.starts_with("\r\n")) {
-    findings.push_back(Finding{trim(result), 0, ""});
-    return findings;
-  }
-  std::vector<std::string> parts = split(std::string_view(result).substr(2), "\r\n");
-  for (std::size_t i = 0; i < parts.size(); i += 2) {
-    Finding finding;
-    finding.message = parts[i];
-    if (i + 1 < parts.size()) finding.quoted = parts[i + 1];
-    findings.push_back(std::move(finding));
-  }
-  return findings;
-}
-
-// The forms in which a check may quote a line: as read, with tabs shown as "<Tab>", trimmed.
-std::string quoteKey(std::string_view line) {
-  return trim(replaceAll(line, "\t", "<Tab>"));
-}
-
-// One pass over the file: every quoted line gets the number of the first line of the file that
-// reads like it and has not been taken by an earlier finding of the same text; the quote then
-// becomes that line's own bytes (checks show a tab as "<Tab>", for one).
 void numberFindings(const LasFile& file, std::vector<CheckOutcome>& rows) {
-  struct Seen {
-    std::vector<std::uint64_t> numbers;
-    std::string line;  // the first such line exactly as the file holds it
-  };
-  std::map<std::string, Seen> wanted;
-  for (const CheckOutcome& row : rows)
-    for (const Finding& finding : row.findings)
-      if (!trim(finding.quoted).empty()) wanted.emplace(quoteKey(finding.quoted), Seen{});
-  if (wanted.empty()) return;
-
-  LineReader reader(file);
-  std::string_view line;
-  for (std::uint64_t number = 1; reader.readLine(line); ++number) {
-    auto found = wanted.find(quoteKey(line));
-    if (found == wanted.end()) continue;
-    if (found->second.numbers.empty()) found->second.line = line;
-    found->second.numbers.push_back(number);
-  }
-
-  for (CheckOutcome& row : rows) {
-    std::map<std::string, std::size_t> used;
-    for (Finding& finding : row.findings) {
-      if (trim(finding.quoted).empty()) continue;
-      std::string key = quoteKey(finding.quoted);
-      const Seen& seen = wanted[key];
-      if (seen.numbers.empty()) continue;
-      std::size_t& next = used[key];
-      finding.line = seen.numbers[std::min(next, seen.numbers.size() - 1)];
-      finding.quoted = seen.line;
-      ++next;
-    }
+  std::vector<Finding*> placed;
+  std::vector<std::int64_t> positions;
+  for (CheckOutcome& row : rows)
+    for (Finding& finding : row.findings)
+      if (finding.position > 0) {
+        placed.push_back(&finding);
+        positions.push_back(finding.position);
+      }
+  if (placed.empty()) return;
+  std::vector<NumberedLine> lines = linesAt(file, positions);
+  for (std::size_t i = 0; i < placed.size(); ++i) {
+    if (lines[i].number == 0) continue;
+    placed[i]->line = lines[i].number;
+    // A quoted record of several lines (wrapped data) stays as the check showed it.
+    std::optional<std::string>& quoted = placed[i]->quoted;
+    if (quoted && quoted->find('\r') == std::string::npos) quoted = std::move(lines[i].text);
   }
 }
 
@@ -98,23 +58,21 @@ std::vector<CheckOutcome> rowsOf(const CheckTable& table) {
   std::vector<CheckOutcome> rows;
   bool reached = true;  // groups after the first failing one were never run
   for (int group = 1; group <= table.lastGroup(); ++group) {
-    if (table.at(0, COL_RESULT, group).empty()) continue;
+    if (table.at(0, COL_HEADING, group).empty()) continue;
     bool groupFailed = false;
     for (int row = 1; row <= table.lastRow(); ++row) {
       const std::string& title = table.at(row, COL_TITLE, group);
       if (title.empty()) continue;
-      const std::string& result = table.at(row, COL_RESULT, group);
+      const RowResult& result = table.result(row, group);
       CheckOutcome outcome{group, row, title, RowOutcome::Passed, {}};
-      if (group == 1 && row == FILE_ASCII && result == " ") {
-        // The content check marks a NUL byte with a lone blank: a failure without words.
-        outcome.outcome = RowOutcome::Failed;
-        outcome.findings.push_back(Finding{"a NUL byte in the first 4096 bytes", 0, ""});
-        groupFailed = true;
-      } else if (!reached || result == " ") {
+      if (!reached || result.notReached()) {
         outcome.outcome = RowOutcome::NotPerformed;
-      } else if (!result.empty()) {
+      } else if (result.failed()) {
         outcome.outcome = RowOutcome::Failed;
-        outcome.findings = findingsOf(result);
+        outcome.findings = result.findings();
+        // The report shows a NUL byte as a failure without words.
+        if (group == 1 && row == FILE_ASCII)
+          outcome.findings = {wordsFinding("a NUL byte in the first 4096 bytes")};
         groupFailed = true;
       }
       rows.push_back(std::move(outcome));

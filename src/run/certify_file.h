@@ -1,9 +1,8 @@
 // Certification of one file as a value: path and options in, verdict, version and every check
 // row with its findings out. The command-line tool certifies through this and nothing else.
 //
-// Safe to call from several threads; calls are taken one at a time for now, since a run still
-// keeps its tables in the process-wide run state. Nothing here writes the command log or the
-// settings store.
+// Safe to call from several threads: each call certifies in a context of its own. Nothing here
+// writes the command log or the settings store.
 #pragma once
 
 #include <string>

@@ -129,7 +129,8 @@ std::string fileLines(const CheckedFile& file) {
     std::string where =
         first->line != 0 ? "line " + toText(static_cast<long long>(first->line)) + ": " : "";
     out += "    " + where + escapeBytes(trim(first->message)) + "\n";
-    if (!first->quoted.empty()) out += "      \"" + escapeBytes(first->quoted) + "\"\n";
+    if (first->quoted && !first->quoted->empty())
+      out += "      \"" + escapeBytes(*first->quoted) + "\"\n";
   }
   if (!result.note.empty()) out += "    " + result.note + "\n";
   if (result.onlyLineEndsFailed)
@@ -191,7 +192,7 @@ std::string jsonDocument(const std::vector<CheckedFile>& files, const CheckTotal
         out += i == 0 ? "\n" : ",\n";
         out += "         {\"line\": " + number(finding.line) +
                ", \"message\": " + jsonString(finding.message) +
-               ", \"quoted\": " + jsonString(finding.quoted) + "}";
+               ", \"quoted\": " + jsonString(finding.quoted.value_or("")) + "}";
       }
       out += row.findings.empty() ? "]}" : "]}";
     }

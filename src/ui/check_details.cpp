@@ -36,16 +36,16 @@ std::string checkDetails(const CheckTable& table, std::string_view key) {
   // Row 0 holds the group heading, not a check.
   if (group < 0 || group > table.lastGroup() || row < 1 || row > table.lastRow()) return "";
 
-  const std::string& result = table.at(row, COL_RESULT, group);
+  const RowResult& result = table.result(row, group);
   std::string text = checkLabel(group, row);
-  if (result.empty()) {
+  if (result.passed()) {
     // A passed check may carry a note, shown under it as the report shows it.
     const std::string& note = table.at(row, COL_NOTE, group);
     if (note.empty()) return text + ":  Check OK";
     return text + ":  Check OK\r\nNote: " + replaceAll(note, "\r\n", "\r\nNote: ");
   }
-  if (result == " ") return text + ":  Check Not Performed";
-  return text + ": " + result;
+  if (result.notReached()) return text + ":  Check Not Performed";
+  return text + ": " + result.text();
 }
 
 }  // namespace zorvik

@@ -8,7 +8,7 @@ namespace {
 
 bool groupHasResults(const CheckTable& table, int group) {
   for (int r = 1; r <= table.lastRow(); ++r)
-    if (!table.at(r, COL_RESULT, group).empty()) return true;
+    if (!table.result(r, group).passed()) return true;
   return false;
 }
 
@@ -75,15 +75,15 @@ std::vector<GroupRow> resultRows(const CheckTable& table) {
     for (int r = 1; r <= table.lastRow(); ++r) {
       const std::string& title = table.at(r, COL_TITLE, g);
       if (title.empty()) continue;
-      const std::string& result = table.at(r, COL_RESULT, g);
+      const RowResult& result = table.result(r, g);
       CheckRow check;
       check.row = r;
       check.text = std::string(1, static_cast<char>('a' + r - 1)) + ". " + title;
-      if (result == " " || (!reached && result.empty())) {
+      if (result.notReached() || (!reached && result.passed())) {
         check.mark = CheckMark::NotPerformed;
-      } else if (!result.empty()) {
+      } else if (!result.passed()) {
         check.mark = CheckMark::Failed;
-        check.findings = findingLines(result);
+        check.findings = findingLines(result.text());
       }
       anyFailed = anyFailed || check.mark == CheckMark::Failed;
       anyNotPerformed = anyNotPerformed || check.mark == CheckMark::NotPerformed;

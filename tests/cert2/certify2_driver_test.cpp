@@ -31,7 +31,7 @@ CheckStatus play(int group, Slots& slots) {
   for (const Play& p : plays) {
     if (p.group != group) continue;
     if (!p.result) throw std::out_of_range("scripted");
-    slots[p.row] = "x";
+    slots[p.row] = RowResult::saying("x");
     return *p.result;
   }
   return CheckStatus::Passed;
@@ -83,7 +83,7 @@ std::string runScript(const testing::RunSandbox& sandbox, RunContext& run, bool 
   for (int group = 2; group <= 7; ++group) {
     for (int row = 1; row <= 15; ++row) {
       const std::string cell = " " + std::to_string(group) + "." + std::to_string(row);
-      if (!run.table2.at(row, COL_RESULT, group).empty()) outcome += cell;
+      if (!run.table2.result(row, group).passed()) outcome += cell;
       if (!run.table2.at(row, COL_NOTE, group).empty()) outcome += cell + "(note)";
     }
   }

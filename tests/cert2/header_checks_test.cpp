@@ -38,7 +38,7 @@ TEST(VersionChecks, FindingsPerRow) {
       table.entries[0][FIELD_MNEMONIC] += mnemonic + " ";
     }
     Slots slots;
-    slots.fill("stale");
+    slots.fill(RowResult::saying("stale"));
     std::string outcome;
     const CheckStatus result = checkVersionSection(run, table, outcome, slots);
     outcome += "\n" + testing::filledSlots(slots, 15);
@@ -75,12 +75,13 @@ TEST(WellChecks, RequiredAndCountryMnemonics) {
     CheckTable checks(7);
     checks.at(2, COL_TITLE, 5) = title;
     Slots slots;
-    slots.fill(" ");
+    slots.fill(RowResult::notReachedRow());
     CheckStatus result = checkWellMnemonics(table, checks, slots);
     const std::string& newTitle = checks.at(2, COL_TITLE, 5);
     ASSERT_EQ(newTitle.rfind(title, 0), 0u);
-    EXPECT_EQ(slots[1] + "|" + slots[2] + "|" + newTitle.substr(title.size()), expected);
-    for (int row = 3; row <= 15; ++row) EXPECT_EQ(slots[row], "");
+    EXPECT_EQ(slots[1].text() + "|" + slots[2].text() + "|" + newTitle.substr(title.size()),
+              expected);
+    for (int row = 3; row <= 15; ++row) EXPECT_TRUE(slots[row].passed());
     EXPECT_EQ(result, expected.starts_with("||") ? CheckStatus::Passed : CheckStatus::Failed);
   }
 }

@@ -131,7 +131,7 @@ TEST(CheckIndexRange, FindingsPerSlot) {
     SCOPED_TRACE(row.name);
     RunContext run = prepareLas("index_range.las", lasBytes(row.parts));
     Slots slots;
-    slots.fill(" ");
+    slots.fill(RowResult::notReachedRow());
     EXPECT_EQ(checkRange(run, slots),
               row.slots.empty() ? CheckStatus::Passed : CheckStatus::Failed);
     EXPECT_EQ(testing::filledSlots(slots, 7), row.slots);

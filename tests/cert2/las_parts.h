@@ -67,7 +67,7 @@ inline WellRange wellRangeOf(const ParamTable& well) {
 inline std::string filledSlots(const Slots& slots, int last) {
   std::string text;
   for (int k = 1; k <= last; ++k) {
-    if (!slots[k].empty()) text += std::to_string(k) + ": " + slots[k] + "\n";
+    if (!slots[k].passed()) text += std::to_string(k) + ": " + slots[k].text() + "\n";
   }
   return text;
 }

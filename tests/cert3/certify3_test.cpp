@@ -41,7 +41,7 @@ std::string groupState(const DriverRun& run, int group) {
   for (int r = 1; r <= 15; ++r) {
     const std::string& mark = run.context.table3.at(r, COL_MARK, group);
     done = done && mark == " ";
-    untouched = untouched && mark.empty() && run.context.table3.at(r, COL_RESULT, group).empty();
+    untouched = untouched && mark.empty() && run.context.table3.result(r, group).passed();
   }
   return done ? "done" : untouched ? "untouched" : "partly";
 }
@@ -54,7 +54,7 @@ TEST(Certify3, RunsEveryGroupReportingProgress) {
   ASSERT_NE(at, std::string::npos);
   text[at + 7] = '~';
   EXPECT_EQ(run.certify(run.sandbox.dir().write("tilde.las", text)), RunStatus::Completed);
-  EXPECT_EQ(run.context.table3.at(7, COL_RESULT, 0),
+  EXPECT_EQ(run.context.table3.result(7, 0).text(),
             "Tilde not first non-space character of the line\r\n"
             "FLD.       Example~Field : Field\r\n");
   EXPECT_FALSE(anyFailure(run.context.table3));
@@ -67,11 +67,11 @@ TEST(Certify3, RunsEveryGroupReportingProgress) {
 
 TEST(Certify3, FileLevelFindingsSurviveAndStopAfterTheVersionChecks) {
   DriverRun run;
-  run.context.table3.at(6, COL_RESULT, 1) = "not a .las name";
+  run.context.table3.result(6, 1) = RowResult::saying("not a .las name");
   run.context.table3.at(6, COL_MARK, 1) = " ";
-  run.context.table3.at(3, COL_RESULT, 4) = "left from an earlier run";
+  run.context.table3.result(3, 4) = RowResult::saying("left from an earlier run");
   EXPECT_EQ(run.certify(EXAMPLE), RunStatus::Completed);
-  EXPECT_EQ(run.context.table3.at(6, COL_RESULT, 1), "not a .las name");
+  EXPECT_EQ(run.context.table3.result(6, 1).text(), "not a .las name");
   for (int g : {0, 2}) EXPECT_EQ(groupState(run, g), "done") << "group " << g;
   for (int g = 3; g <= 9; ++g) EXPECT_EQ(groupState(run, g), "untouched") << "group " << g;
 }

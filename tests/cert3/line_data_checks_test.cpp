@@ -40,14 +40,18 @@ void prepare(RunContext& run, const std::string& path) {
   locateStandardSections(LasFile(path), run.dialect, run.sections);
 }
 
-// Runs `check` as the driver does, every slot preset to " ".
-Slots runOn(const std::string& path, const Check& check, CheckStatus& result) {
+using Texts = std::array<std::string, 16>;
+
+// Runs `check` as the driver does, every slot preset to not reached; the rows' texts.
+Texts runOn(const std::string& path, const Check& check, CheckStatus& result) {
   RunContext run;
   prepare(run, path);
   Slots slots;
-  slots.fill(" ");
+  slots.fill(RowResult::notReachedRow());
   result = check(run, slots);
-  return slots;
+  Texts texts;
+  for (std::size_t k = 0; k < slots.size(); ++k) texts[k] = slots[k].text();
+  return texts;
 }
 
 std::size_t countOf(const std::string& text, const std::string& what) {
@@ -76,7 +80,7 @@ TEST(LineDataChecks, DataLineFindingsAreBounded) {
   std::vector<std::string> data{"0.5,1"};
   for (int i = 1; i <= 1000; ++i) data.push_back(std::to_string(i) + ".5,x,9");
   CheckStatus result = CheckStatus::Fault;
-  Slots slots = runOn(dir.write("bounded.las", lasText(data)), checkColumnData, result);
+  Texts slots = runOn(dir.write("bounded.las", lasText(data)), checkColumnData, result);
   EXPECT_EQ(result, CheckStatus::Failed);
   EXPECT_EQ(countOf(slots[3], "Data column item (x) in ~Log_Data @ "), 100u);
   EXPECT_NE(slots[3].find("Data column item (x) in ~Log_Data @ 1.5 wrong format {F}\r\n"),

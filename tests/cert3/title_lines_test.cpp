@@ -48,13 +48,13 @@ TEST(TitleLines, EachPassJudgesTildeLinesByItsOwnRules) {
   for (const TitleRow& row : rows) {
     SCOPED_TRACE(row.what);
     const std::string path = dir.write("titles.las", row.file);
-    std::string slot3, slot2;
+    RowResult slot3, slot2;
     EXPECT_EQ(checkTitleLines3(LasFile(path), slot3),
               row.expected3.empty() ? CheckStatus::Passed : CheckStatus::Failed);
-    EXPECT_EQ(slot3, row.expected3);
+    EXPECT_EQ(slot3.text(), row.expected3);
     EXPECT_EQ(checkTitleLines2(LasFile(path), slot2),
               row.expected2.empty() ? CheckStatus::Passed : CheckStatus::Failed);
-    EXPECT_EQ(slot2, row.expected2);
+    EXPECT_EQ(slot2.text(), row.expected2);
   }
 }
 
@@ -72,11 +72,11 @@ TEST(TitleLines, LinesAcrossReadBlocksAreFoundWhole) {
       const std::string longLine = std::string(boundary, 'b') + "~";
       const std::string path =
           dir.write("blocks.las", head + filler + end + "x~y" + end + longLine + end + "~A" + end);
-      std::string slot3, slot2;
+      RowResult slot3, slot2;
       checkTitleLines3(LasFile(path), slot3);
       checkTitleLines2(LasFile(path), slot2);
-      EXPECT_EQ(slot3, NOT_FIRST + "x~y\r\n" + NOT_FIRST + longLine + "\r\n");
-      EXPECT_EQ(slot2, NOT_FIRST + "x~y" + NOT_FIRST + longLine);
+      EXPECT_EQ(slot3.text(), NOT_FIRST + "x~y\r\n" + NOT_FIRST + longLine + "\r\n");
+      EXPECT_EQ(slot2.text(), NOT_FIRST + "x~y" + NOT_FIRST + longLine);
     }
   }
 }

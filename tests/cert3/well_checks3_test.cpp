@@ -49,12 +49,12 @@ TEST(WellChecks3, CountryCodes) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.what);
     Slots slots;
-    for (int k = 1; k <= 6; ++k) slots[k] = " ";
+    for (int k = 1; k <= 6; ++k) slots[k].markNotReached();
     // No such file: the CTRY line is quoted as rebuilt from its fields.
     EXPECT_EQ(checkWellSection3(missingFile(), wellTable(row.lines), slots),
               row.failedItem == 0 ? CheckStatus::Passed : CheckStatus::Failed);
     for (int k = 1; k <= 6; ++k)
-      EXPECT_EQ(slots[k], k == row.failedItem ? row.finding : "") << "item " << k;
+      EXPECT_EQ(slots[k].text(), k == row.failedItem ? row.finding : "") << "item " << k;
   }
 }
 
@@ -74,7 +74,7 @@ TEST(WellChecks3, LocationSets) {
     withCountry.emplace_back("CTRY", "");  // an empty code requires nothing
     EXPECT_EQ(checkWellSection3(missingFile(), wellTable(withCountry, false), slots),
               finding.empty() ? CheckStatus::Passed : CheckStatus::Failed);
-    EXPECT_EQ(slots[6], finding);
+    EXPECT_EQ(slots[6].text(), finding);
   }
 }
 

@@ -18,7 +18,7 @@ TEST(Catalogue, LayoutFollowsTheCurrentOptionsAndFileTexts) {
   EXPECT_EQ(run.table2.at(4, COL_TITLE, 7), "");
   // Without a data section title or country the 3.0 titles keep their blanks.
   const CheckTable& t = run.table3;
-  EXPECT_EQ(t.at(0, COL_RESULT, 6), " Section STRT/STOP/STEP Checks");
+  EXPECT_EQ(t.at(0, COL_HEADING, 6), " Section STRT/STOP/STEP Checks");
   EXPECT_EQ(t.at(2, COL_TITLE, 6), "STRT Value matches  section first index");
   EXPECT_EQ(t.at(5, COL_TITLE, 5), "CTRY () based required mnemonics present");
 }

@@ -160,19 +160,22 @@ TEST(TildeLines, FindsWhatReadingEveryLineFinds) {
   for (const std::string& content : contents) {
     SCOPED_TRACE(content.size());
     const std::string path = writeScratchFile("tilde.las", content);
-    std::vector<std::pair<std::string, std::int64_t>> expected;
+    using Seen = std::vector<std::tuple<std::string, std::int64_t, std::int64_t>>;
+    Seen expected;
     LineReader reader(path);
     std::string line;
     while (reader.readLine(line))
-      if (line.find('~') != std::string::npos) expected.emplace_back(line, reader.position());
-    std::vector<std::pair<std::string, std::int64_t>> found;
+      if (line.find('~') != std::string::npos)
+        expected.emplace_back(line, reader.lineStart(), reader.position());
+    Seen found;
     LasFile file(path);
-    EXPECT_TRUE(forEachTildeLine(file, [&](std::string_view text, std::int64_t next) {
-      found.emplace_back(std::string(text), next);
-    }));
+    EXPECT_TRUE(
+        forEachTildeLine(file, [&](std::string_view text, std::int64_t start, std::int64_t next) {
+          found.emplace_back(std::string(text), start, next);
+        }));
     EXPECT_EQ(found, expected);
   }
-  EXPECT_FALSE(forEachTildeLine(LasFile(), [](std::string_view, std::int64_t) {}));
+  EXPECT_FALSE(forEachTildeLine(LasFile(), [](std::string_view, std::int64_t, std::int64_t) {}));
 }
 
 // Tilde lines kept by one search serve the next one only while the file is the one they were
@@ -181,7 +184,7 @@ TEST(TildeLines, KeptLinesServeOnlyTheSameUnchangedFile) {
   using Found = std::vector<std::pair<std::string, std::int64_t>>;
   const auto search = [](const LasFile& file, TildeLines& known) {
     Found found;
-    forEachTildeLine(file, &known, [&](std::string_view text, std::int64_t next) {
+    forEachTildeLine(file, &known, [&](std::string_view text, std::int64_t, std::int64_t next) {
       found.emplace_back(std::string(text), next);
     });
     return found;

@@ -9,6 +9,13 @@
 namespace zorvik {
 namespace {
 
+Finding numbered(std::string message, std::uint64_t line, std::string quoted) {
+  Finding finding = wordsFinding(std::move(message));
+  finding.line = line;
+  finding.quoted = std::move(quoted);
+  return finding;
+}
+
 constexpr std::array<OptionSpec, 3> kTable{{
     {"report-dir", 0, "DIR", "reports"},
     {"jobs", 'j', "N", "workers"},
@@ -89,8 +96,8 @@ TEST(ToolOutput, FailedFileShowsRowsFirstFindingAndHint) {
        5,
        "Legal line type",
        RowOutcome::Failed,
-       {{"Tab used:", 12, "A\tB"}, {"Tab used:", 14, "C\tD"}}},
-      {6, 1, "STRT", RowOutcome::Failed, {{"STRT differs", 0, ""}}},
+       {numbered("Tab used:", 12, "A\tB"), numbered("Tab used:", 14, "C\tD")}},
+      {6, 1, "STRT", RowOutcome::Failed, {wordsFinding("STRT differs")}},
       {7, 1, "Data", RowOutcome::NotPerformed, {}},
   };
   EXPECT_EQ(fileLines(file),

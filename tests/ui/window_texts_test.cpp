@@ -13,6 +13,11 @@
 namespace zorvik {
 namespace {
 
+// A row result as the grid receives it: a single blank is a row not reached, other text findings.
+RowResult shown(const std::string& text) {
+  return text == " " ? RowResult::notReachedRow() : RowResult::saying(text);
+}
+
 // "Files" with three checks, "Version" with two (its untitled row 3 is not listed), "Data" one.
 CheckTable smallCatalogue() {
   CheckTable table(4);
@@ -51,7 +56,7 @@ TEST(ResultRows, MarksFollowResultsAndHowFarTheRunGot) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     CheckTable table = smallCatalogue();
-    for (const Result& r : row.results) table.at(r.row, COL_RESULT, r.group) = r.text;
+    for (const Result& r : row.results) table.result(r.row, r.group) = shown(r.text);
     for (const auto& [r, g] : row.displayMarks) table.at(r, COL_MARK, g) = " ";
     std::string marks;
     for (const GroupRow& group : resultRows(table)) {
@@ -67,7 +72,7 @@ TEST(ResultRows, MarksFollowResultsAndHowFarTheRunGot) {
 // indented, split at every line end (CR LF, lone CR, lone LF) with empty lines dropped.
 TEST(ResultRows, ModelPlainTextListsEveryRowAndFindingsOnlyWithDetails) {
   CheckTable table = smallCatalogue();
-  table.at(2, COL_RESULT, 2) = "\r\nWRAP missing\r~VERSION\n \r\n\r\n";
+  table.result(2, 2) = shown("\r\nWRAP missing\r~VERSION\n \r\n\r\n");
   ResultModel model;
   model.showTable(table);
   EXPECT_EQ(model.plainText(),
@@ -89,10 +94,10 @@ TEST(ResultRows, ModelPlainTextListsEveryRowAndFindingsOnlyWithDetails) {
 
 TEST(CheckDetails, ShowsLabelAndResultOfTheKeyedCheck) {
   CheckTable table(7);
-  table.at(2, COL_RESULT, 2) = "\r\nVERS line missing\r\n~V";
-  table.at(3, COL_RESULT, 2) = " ";
-  table.at(4, COL_RESULT, 2) = "  ";  // blanks that are not the single blank are findings
-  table.at(15, COL_RESULT, 7) = "x";
+  table.result(2, 2) = shown("\r\nVERS line missing\r\n~V");
+  table.result(3, 2) = shown(" ");
+  table.result(4, 2) = shown("  ");  // blanks that are not the single blank are findings
+  table.result(15, 7) = shown("x");
   struct Row {
     const char* key;
     const char* details;
