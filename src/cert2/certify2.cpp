@@ -40,19 +40,16 @@ std::string currentDelimiter(RunContext& run) {
 }
 
 // Loads a header section by its full name, and outside 3.0 by its one-letter name when the full
-// one is not there. False when loading failed (not when the section is missing).
-bool loadHeaderTable(RunContext& run, ParamTable& table, std::string_view name,
+// one is not there; a missing section leaves the table empty.
+void loadHeaderTable(RunContext& run, ParamTable& table, std::string_view name,
                      std::string_view letter) {
-  int loaded = parseSectionTable(run.source(), run.dialect, run.sections, table, name);
-  if (loaded == 1 && !run.isV3())
-    loaded = parseSectionTable(run.source(), run.dialect, run.sections, table, letter);
-  return loaded != 0;
+  if (!parseSectionTable(run.source(), run.dialect, run.sections, table, name) && !run.isV3())
+    parseSectionTable(run.source(), run.dialect, run.sections, table, letter);
 }
 
-// Loads the section `name` when the run found one; false when loading failed.
-bool loadNamedTable(RunContext& run, ParamTable& table, const std::string& name) {
-  return name.empty() ||
-         parseSectionTable(run.source(), run.dialect, run.sections, table, name) != 0;
+// Loads the section `name` when the run found one.
+void loadNamedTable(RunContext& run, ParamTable& table, const std::string& name) {
+  if (!name.empty()) parseSectionTable(run.source(), run.dialect, run.sections, table, name);
 }
 
 // The country note alone in group 5 keeps the stop rule off for the rest of the run.
@@ -101,10 +98,10 @@ Next runChecks(RunContext& run, const Certify2Checks& checks) {
   ParamTable wellTable;
   ParamTable curveTable;
   ParamTable paramTable;
-  if (!loadHeaderTable(run, versionTable, "Version", "V")) throw RunFailed{};
-  if (!loadHeaderTable(run, wellTable, "Well", "W")) throw RunFailed{};
-  if (!loadNamedTable(run, curveTable, run.sections.curveName)) throw RunFailed{};
-  if (!loadNamedTable(run, paramTable, run.sections.paramName)) throw RunFailed{};
+  loadHeaderTable(run, versionTable, "Version", "V");
+  loadHeaderTable(run, wellTable, "Well", "W");
+  loadNamedTable(run, curveTable, run.sections.curveName);
+  loadNamedTable(run, paramTable, run.sections.paramName);
 
   // Group 2: ~Version. It may confirm the version, so the delimiter is worked out again.
   std::string wrapValue;

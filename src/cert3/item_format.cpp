@@ -47,7 +47,7 @@ ItemFormat parseItemFormat(std::string_view format) {
 
 bool itemFitsFormatFully(std::string_view item, const ItemFormat& format,
                          std::string_view delimiter) {
-  return valueMatchesFormat(item, format.text, delimiter) == -1;
+  return valueFitsFormat(item, format.text, delimiter);
 }
 
 }  // namespace zorvik

@@ -164,11 +164,11 @@ bool mnemonicListHas(std::string_view list, std::string_view mnemonic) {
   return false;
 }
 
-int parseSectionTable(const LasFile& file, const Dialect& dialect, SectionIndex& index,
-                      ParamTable& table, std::string_view sectionName) {
+bool parseSectionTable(const LasFile& file, const Dialect& dialect, SectionIndex& index,
+                       ParamTable& table, std::string_view sectionName) {
   table.reset();
   std::string text = sectionText(file, dialect, index, sectionName);
-  if (text.empty()) return 1;
+  if (text.empty()) return false;
   std::erase(text, '\n');
   // Compared with each line's own period position: a line without a colon of its own still
   // counts when the section's last colon lies further right than its period.
@@ -193,7 +193,7 @@ int parseSectionTable(const LasFile& file, const Dialect& dialect, SectionIndex&
     if (isValidMnemonic(mnemonic, dialect)) validList += mnemonic + " ";
   }
   table.entries[0][FIELD_MNEMONIC] = validList;
-  return -1;
+  return true;
 }
 
 std::string mnemonicValue(const ParamTable& table, std::string_view mnemonic) {

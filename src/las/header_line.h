@@ -74,9 +74,10 @@ struct ParamTable {
   void reset() { entries.assign(1, {}); }
 };
 
-// Builds the table of section `sectionName` of the file: -1 built, 1 when the section has no text.
-int parseSectionTable(const LasFile& file, const Dialect& dialect, SectionIndex& index,
-                      ParamTable& table, std::string_view sectionName);
+// Builds the table of section `sectionName` of the file; false (table left empty) when the section
+// has no text.
+bool parseSectionTable(const LasFile& file, const Dialect& dialect, SectionIndex& index,
+                       ParamTable& table, std::string_view sectionName);
 
 // The value of the first entry whose mnemonic equals `mnemonic` (ignoring case); a single space
 // when no entry has it.

@@ -58,16 +58,15 @@ void checkFormatPart(std::string_view line, std::optional<SectionRole> role,
   if (hasOpen && hasClose && openLast < closeLast) {
     if (format.empty()) {
       d[SLOT_FORMAT] = V3_MSG_EMPTY_FORMAT;
-    } else if (isLegalFormat(format) == 0) {
+    } else if (!isLegalFormat(format)) {
       d[SLOT_FORMAT] = V3_MSG_ILLEGAL_FORMAT;
     }
     // Header and parameter values are written in their own format; definitions describe the
     // data's format instead.
     if ((role == SectionRole::Header || role == SectionRole::Parameter) &&
-        valueMatchesFormat(value, format, delimiter) == 1)
+        !valueFitsFormat(value, format, delimiter))
       d[SLOT_BRACE] = "Bad Format: " + value + " doesn't look like this format: {" + format + "}";
-  } else if (valueMatchesFormat(value, "F", delimiter) == 1 &&
-             valueMatchesFormat(value, "S", delimiter) == 1) {
+  } else if (!valueFitsFormat(value, "F", delimiter) && !valueFitsFormat(value, "S", delimiter)) {
     d[SLOT_BRACE] =
         "Value is not Floating point format, assumed String, but value not string. Value was: " +
         value + ". Format was: {" + format + "}";

@@ -258,9 +258,8 @@ bool isExponentialValue(std::string_view part, std::string_view) {
   return hasE(part) && isNumeric(part);
 }
 
-int valueMatchesFormat(std::string_view value, std::string_view format,
-                       std::string_view delimiter) {
-  if (trimView(value).empty()) return -1;
+bool valueFitsFormat(std::string_view value, std::string_view format, std::string_view delimiter) {
+  if (trimView(value).empty()) return true;
 
   // One header value may hold several array elements, written with the data delimiter.
   std::vector<std::string_view> parts;
@@ -286,7 +285,7 @@ int valueMatchesFormat(std::string_view value, std::string_view format,
     parts.push_back(value);
   }
 
-  auto all = [&](auto test) { return std::all_of(parts.begin(), parts.end(), test) ? -1 : 1; };
+  auto all = [&](auto test) { return std::all_of(parts.begin(), parts.end(), test); };
   if (degreeSignLength(format) > 0)
     return all([](std::string_view p) { return contains(p, '"') && contains(p, '\''); });
   std::string_view spec = format.empty() ? format : format.substr(1, MAX_SPEC);
@@ -305,7 +304,7 @@ int valueMatchesFormat(std::string_view value, std::string_view format,
     case 'H':
       return all([&](std::string_view p) { return matchesDatePattern(p, format); });
     default:
-      return 1;
+      return false;
   }
 }
 
@@ -338,30 +337,30 @@ bool isLegalFormatElement(std::string_view element) {
   }
 }
 
-int isLegalFormat(std::string_view format) {
-  if (format.empty()) return -1;
+bool isLegalFormat(std::string_view format) {
+  if (format.empty()) return true;
   std::string_view t = trimView(format);
   if (contains(t, ' ')) {
     // A format with blanks inside ("DD MM YYYY") is only checked for a known leading letter.
-    return !t.empty() && contains("FIESADMYH", toUpperAscii(t[0])) ? -1 : 0;
+    return !t.empty() && contains("FIESADMYH", toUpperAscii(t[0]));
   }
   if (t.size() >= 2 && t.front() == '{') t.remove_prefix(1);
   if (t.size() >= 2 && t.back() == '}') t.remove_suffix(1);
   t = trimView(t);
-  if (t.empty() || toUpperAscii(t[0]) != 'A') return isLegalFormatElement(t) ? -1 : 0;
+  if (t.empty() || toUpperAscii(t[0]) != 'A') return isLegalFormatElement(t);
 
   // An array format: "A", "AF10.4", "AF10.4;3;4" (element format, then dimensions).
-  if (t.size() == 1) return -1;
-  int answer = -1;
+  if (t.size() == 1) return true;
+  bool answer = true;
   std::string_view rest = t.substr(1);
   if (rest != ";") {
     std::string_view element = rest.substr(0, rest.find(';'));
-    if (!isLegalFormatElement(element)) answer = 0;
+    if (!isLegalFormatElement(element)) answer = false;
   }
   if (contains(t, ';')) {
     std::vector<std::string> pieces = split(t, ";");
     for (std::size_t i = 1; i < pieces.size(); ++i)
-      if (pieces[i].empty()) answer = 0;
+      if (pieces[i].empty()) answer = false;
   }
   return answer;
 }

@@ -6,17 +6,17 @@
 
 namespace zorvik {
 
-// -1 when the value conforms to the format (braces and array marker already removed), else 1.
-// The elements of an array value are separated by the data `delimiter`.
-int valueMatchesFormat(std::string_view value, std::string_view format, std::string_view delimiter);
+// True when the value conforms to the format (braces and array marker already removed). The
+// elements of an array value are separated by the data `delimiter`.
+bool valueFitsFormat(std::string_view value, std::string_view format, std::string_view delimiter);
 
 bool isFloatValue(std::string_view part, std::string_view spec);
 bool isIntegerValue(std::string_view part, std::string_view spec);
 bool isStringValue(std::string_view part, std::string_view spec);
 bool isExponentialValue(std::string_view part, std::string_view spec);
 
-// Format syntax: -1 legal, 0 illegal.
-int isLegalFormat(std::string_view format);
+// Format syntax.
+bool isLegalFormat(std::string_view format);
 bool isLegalFormatElement(std::string_view element);
 
 }  // namespace zorvik

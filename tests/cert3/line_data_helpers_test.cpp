@@ -65,7 +65,7 @@ TEST(ItemFormat, AgreesWithTheFullValueTest) {
     EXPECT_EQ(parsed.text, format);
     for (const char* item : items) {
       SCOPED_TRACE(std::string("item [") + item + "] format [" + format + "]");
-      EXPECT_EQ(itemFitsFormat(item, parsed, ","), valueMatchesFormat(item, format, ",") == -1);
+      EXPECT_EQ(itemFitsFormat(item, parsed, ","), valueFitsFormat(item, format, ","));
     }
   }
 }

@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view delimiter = size % 2 == 0 ? "," : " ";
   zorvik::isLegalFormat(format);
   zorvik::isLegalFormatElement(format);
-  zorvik::valueMatchesFormat(value, format, delimiter);
+  zorvik::valueFitsFormat(value, format, delimiter);
   const std::string_view spec = format.empty() ? format : format.substr(1);
   zorvik::isFloatValue(value, spec);
   zorvik::isIntegerValue(value, spec);
