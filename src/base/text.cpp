@@ -36,40 +36,21 @@ bool iendsWith(std::string_view s, std::string_view suffix) {
 }
 
 std::size_t ifind(std::string_view s, std::string_view what, std::size_t from) {
-  if (from < 1) from = 1;
-  if (what.empty()) return from <= s.size() + 1 ? from : 0;
-  if (what.size() > s.size()) return 0;
-  for (std::size_t i = from - 1; i + what.size() <= s.size(); ++i)
-    if (iequals(s.substr(i, what.size()), what)) return i + 1;
-  return 0;
+  if (from > s.size() || what.size() > s.size() - from) return std::string_view::npos;
+  for (std::size_t i = from; i + what.size() <= s.size(); ++i)
+    if (iequals(s.substr(i, what.size()), what)) return i;
+  return std::string_view::npos;
 }
 
 std::size_t ifindLast(std::string_view s, std::string_view what) {
-  if (what.empty() || what.size() > s.size()) return 0;
+  if (what.empty() || what.size() > s.size()) return std::string_view::npos;
   for (std::size_t i = s.size() - what.size() + 1; i-- > 0;)
-    if (iequals(s.substr(i, what.size()), what)) return i + 1;
-  return 0;
+    if (iequals(s.substr(i, what.size()), what)) return i;
+  return std::string_view::npos;
 }
 
 bool icontains(std::string_view s, std::string_view what) {
-  return ifind(s, what) != 0;
-}
-
-std::size_t findPos(std::string_view s, std::string_view what, std::size_t from) {
-  if (from < 1) from = 1;
-  if (from > s.size() + 1) return 0;
-  std::size_t p = s.find(what, from - 1);
-  return p == std::string_view::npos ? 0 : p + 1;
-}
-
-std::size_t firstPos(std::string_view s, char c) {
-  std::size_t p = s.find(c);
-  return p == std::string_view::npos ? 0 : p + 1;
-}
-
-std::size_t lastPos(std::string_view s, char c) {
-  std::size_t p = s.rfind(c);
-  return p == std::string_view::npos ? 0 : p + 1;
+  return ifind(s, what) != std::string_view::npos;
 }
 
 bool contains(std::string_view s, std::string_view what) {
@@ -77,17 +58,6 @@ bool contains(std::string_view s, std::string_view what) {
 }
 bool contains(std::string_view s, char c) {
   return s.find(c) != std::string_view::npos;
-}
-
-std::string_view mid(std::string_view s, std::size_t start, std::size_t count) {
-  if (start < 1 || start > s.size()) return {};
-  return s.substr(start - 1, count);
-}
-std::string_view left(std::string_view s, std::size_t count) {
-  return s.substr(0, count);
-}
-std::string_view right(std::string_view s, std::size_t count) {
-  return count >= s.size() ? s : s.substr(s.size() - count);
 }
 
 std::vector<std::string> split(std::string_view s, std::string_view separator) {

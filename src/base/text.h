@@ -36,24 +36,14 @@ bool iequals(std::string_view a, std::string_view b);
 bool istartsWith(std::string_view s, std::string_view prefix);
 bool iendsWith(std::string_view s, std::string_view suffix);
 
-// Case-insensitive searches, 1-based; 0 when not found. `from` is the 1-based start position.
-std::size_t ifind(std::string_view s, std::string_view what, std::size_t from = 1);
+// Case-insensitive (ASCII) searches, as std::string_view::find and rfind: the 0-based place of
+// the first / last occurrence, npos when there is none.
+std::size_t ifind(std::string_view s, std::string_view what, std::size_t from = 0);
 std::size_t ifindLast(std::string_view s, std::string_view what);
 bool icontains(std::string_view s, std::string_view what);
 
-// Exact (case-sensitive) searches, 1-based; 0 when not found.
-std::size_t findPos(std::string_view s, std::string_view what, std::size_t from = 1);
-// 1-based position of the first / last occurrence of a character; 0 when absent.
-std::size_t firstPos(std::string_view s, char c);
-std::size_t lastPos(std::string_view s, char c);
 bool contains(std::string_view s, std::string_view what);
 bool contains(std::string_view s, char c);
-
-// 1-based substring: `count` characters from `start`, clipped to the text; empty when out of range.
-std::string_view mid(std::string_view s, std::size_t start,
-                     std::size_t count = std::string_view::npos);
-std::string_view left(std::string_view s, std::size_t count);
-std::string_view right(std::string_view s, std::size_t count);
 
 // Splits at every occurrence of `separator` (empty fields kept). An empty text gives one empty
 // field.

@@ -18,7 +18,7 @@ std::string absentFrom(const std::string& spacedList,
   std::string absent;
   for (std::string_view name : names) {
     std::string word = " " + std::string(name) + " ";
-    if (ifind(spacedList, word) == 0) absent += std::string(name) + ", ";
+    if (ifind(spacedList, word) == std::string::npos) absent += std::string(name) + ", ";
   }
   return absent;
 }

@@ -151,7 +151,7 @@ RunStatus fileLevelChecks(RunContext& run, Slots& results) {
   }
 
   if (fileName.size() >= 5) {
-    if (!iequals(right(fileName, 4), ".las"))
+    if (!iendsWith(fileName, ".las"))
       results[FILE_EXTENSION] = RowResult::saying("File extension is not .LAS ");
   } else {
     results[FILE_EXTENSION] =

@@ -157,10 +157,13 @@ void minimumSections2(const std::vector<Title>& titles, RowResult& row) {
 bool hasMatchingSetPair(const std::vector<Title>& titles) {
   std::unordered_set<std::size_t> definitionPlaces;
   for (const Title& t : titles)
-    if (const std::size_t p = ifind(t.text, "_Definition")) definitionPlaces.insert(p);
+    if (const std::size_t p = ifind(t.text, "_Definition"); p != std::string::npos)
+      definitionPlaces.insert(p);
   // One title cannot hold both suffixes at one place, so a match is always a pair of titles.
   for (const Title& t : titles)
-    if (const std::size_t p = ifind(t.text, "_data"); p && definitionPlaces.count(p)) return true;
+    if (const std::size_t p = ifind(t.text, "_data");
+        p != std::string::npos && definitionPlaces.count(p))
+      return true;
   return false;
 }
 

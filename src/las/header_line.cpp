@@ -10,10 +10,12 @@ namespace zorvik {
 
 namespace {
 
-// The text strictly between the 1-based positions `from` and `to`.
+constexpr std::size_t npos = std::string_view::npos;
+
+// The text strictly between the places `from` and `to`; empty when either is npos.
 std::string_view between(std::string_view s, std::size_t from, std::size_t to) {
-  if (to <= from + 1) return {};
-  return mid(s, from + 1, to - from - 1);
+  if (from == npos || to == npos || to <= from + 1) return {};
+  return s.substr(from + 1, to - from - 1);
 }
 
 }  // namespace
@@ -23,46 +25,47 @@ LineKind classifyHeaderLine(std::string_view line) {
   if (t.empty()) return LineKind::Blank;
   if (t[0] == '#') return LineKind::Comment;
   if (t[0] == '~') return LineKind::Title;
-  std::size_t d = firstPos(t, '.');
-  std::size_t c = lastPos(t, ':');
-  if (d > 0 && c > 0 && d + 1 < c) {
+  std::size_t d = t.find('.');
+  std::size_t c = t.rfind(':');
+  if (d != npos && c != npos && d + 1 < c) {
     // A tab outranks the mnemonic faults: it is what the user has to fix first.
     if (contains(t, '\t')) return LineKind::HasTab;
-    if (d == 1) return LineKind::NoMnemonic;
+    if (d == 0) return LineKind::NoMnemonic;
     if (contains(fieldMnemonic(t), ' ')) return LineKind::SpaceInMnemonic;
     return LineKind::Ok;
   }
   return LineKind::NotDelimited;
 }
 
-int delimiterColon(std::string_view line, int& bracePos) {
+std::size_t delimiterColon(std::string_view line, std::size_t& brace) {
   std::string format = fieldFormat(line);
   if (format.empty()) {
-    bracePos = 0;
-    return static_cast<int>(lastPos(line, ':'));
+    brace = npos;
+    return line.rfind(':');
   }
-  std::size_t brace = lastPos(line, '{');
-  bracePos = static_cast<int>(brace);
+  brace = line.rfind('{');  // there is one: the format stands in braces
   // A time format ("hh:mm") carries colons of its own; the delimiter is the last one before it.
-  if (contains(format, ':') && ifindLast(line, format) > brace)
-    return static_cast<int>(lastPos(left(line, brace - 1), ':'));
-  return static_cast<int>(lastPos(line, ':'));
+  if (contains(format, ':')) {
+    const std::size_t written = ifindLast(line, format);
+    if (written != npos && written > brace) return line.substr(0, brace).rfind(':');
+  }
+  return line.rfind(':');
 }
 
-int delimiterColon(std::string_view line) {
-  int bracePos = 0;
-  return delimiterColon(line, bracePos);
+std::size_t delimiterColon(std::string_view line) {
+  std::size_t brace = npos;
+  return delimiterColon(line, brace);
 }
 
 std::string fieldMnemonic(std::string_view line) {
-  std::size_t d = firstPos(line, '.');
-  return d == 0 ? std::string() : trim(left(line, d - 1));
+  std::size_t d = line.find('.');
+  return d == npos ? std::string() : trim(line.substr(0, d));
 }
 
 std::string fieldUnit(std::string_view line) {
-  std::size_t d = firstPos(line, '.');
-  std::size_t c = lastPos(line, ':');
-  if (d == 0 || c == 0 || d >= c) return {};
+  std::size_t d = line.find('.');
+  std::size_t c = line.rfind(':');
+  if (d == npos || c == npos || d >= c) return {};
   std::string_view r = between(line, d, c);
   // A blank right after the period means the line has no unit.
   if (trimView(r).empty() || r[0] == ' ') return {};
@@ -72,8 +75,8 @@ std::string fieldUnit(std::string_view line) {
 
 std::string fieldValue(std::string_view line) {
   if (classifyHeaderLine(line) != LineKind::Ok) return {};
-  std::size_t c = static_cast<std::size_t>(delimiterColon(line));
-  std::size_t d = firstPos(line, '.');
+  std::size_t c = delimiterColon(line);
+  std::size_t d = line.find('.');
   std::string_view r = between(line, d, c);
   if (r.empty()) return {};
   if (r[0] == ' ') return trim(r);
@@ -83,9 +86,13 @@ std::string fieldValue(std::string_view line) {
 }
 
 std::string fieldDescription(std::string_view line) {
-  int bracePos = 0;
-  int c = delimiterColon(line, bracePos);
-  if (bracePos > c) return trim(mid(line, c + 1, bracePos - c - 1));
+  std::size_t brace = npos;
+  std::size_t c = delimiterColon(line, brace);
+  // A format brace after the colon (or without one) ends the description.
+  if (brace != npos && (c == npos || brace > c)) {
+    const std::size_t from = c == npos ? 0 : c + 1;
+    return trim(line.substr(from, brace - from));
+  }
   if (!contains(line, ':')) return {};
   std::string_view r = trimView(line.substr(line.rfind(':') + 1));
   if (std::size_t p = r.find('{'); p != std::string_view::npos) r = trimView(r.substr(0, p));
@@ -94,9 +101,9 @@ std::string fieldDescription(std::string_view line) {
 }
 
 std::string fieldFormat(std::string_view line) {
-  std::size_t o = firstPos(line, '{');
-  std::size_t e = firstPos(line, '}');
-  if (o == 0 || e == 0 || o > e || e - o < 2) return {};
+  std::size_t o = line.find('{');
+  std::size_t e = line.find('}');
+  if (o == npos || e == npos || o > e || e - o < 2) return {};
   std::string_view f = trimView(between(line, o, e));
   if (std::size_t p = f.find(';'); p != std::string_view::npos) f = f.substr(0, p);
   // A leading "A" marks an array format; the element format follows it.
@@ -107,16 +114,16 @@ std::string fieldFormat(std::string_view line) {
 std::string fieldAssociation(std::string_view line, std::string_view delimiter,
                              std::vector<std::string>& parts) {
   parts.assign(1, std::string());
-  std::size_t bar = lastPos(line, '|');
-  if (bar == 0) return {};
-  std::string a = trim(line.substr(bar));
+  std::size_t bar = line.rfind('|');
+  if (bar == npos) return {};
+  std::string a = trim(line.substr(bar + 1));
   parts = delimiter == " " ? splitOnBlanks(a) : split(a, delimiter);
   return a;
 }
 
 std::string fieldAssociation(std::string_view line) {
-  std::size_t bar = lastPos(line, '|');
-  return bar == 0 ? std::string() : trim(line.substr(bar));
+  std::size_t bar = line.rfind('|');
+  return bar == npos ? std::string() : trim(line.substr(bar + 1));
 }
 
 bool isValidMnemonic(std::string_view text, const Dialect& dialect) {
@@ -124,12 +131,12 @@ bool isValidMnemonic(std::string_view text, const Dialect& dialect) {
   if (t.empty()) return false;
   if (!dialect.isV3()) return t.find_first_of(" .:") == std::string_view::npos;
   if (t.find_first_of(", \t.:{}|;") != std::string_view::npos) return false;
-  std::size_t open = firstPos(t, '[');
-  std::size_t close = firstPos(t, ']');
-  if (open == 0 && close == 0) return true;
-  if (open == 0 || close == 0) return false;
+  std::size_t open = t.find('[');
+  std::size_t close = t.find(']');
+  if (open == npos && close == npos) return true;
+  if (open == npos || close == npos) return false;
   // An array element: "NAME[3]", the index an unsigned integer closing the mnemonic.
-  if (close != t.size() || open == 1) return false;
+  if (close + 1 != t.size() || open == 0) return false;
   return isIntegerValue(between(t, open, close), "");
 }
 
@@ -172,7 +179,7 @@ bool parseSectionTable(const LasFile& file, const Dialect& dialect, SectionIndex
   std::erase(text, '\n');
   // Compared with each line's own period position: a line without a colon of its own still
   // counts when the section's last colon lies further right than its period.
-  std::size_t lastColon = lastPos(text, ':');
+  std::size_t lastColon = text.rfind(':');
   const bool keepTabs = dialect.delimiter == "\t";
   std::string validList;
   std::string line;
@@ -183,8 +190,8 @@ bool parseSectionTable(const LasFile& file, const Dialect& dialect, SectionIndex
     line.assign(text, start, end - start);
     start = end + 1;
     if (!keepTabs) std::replace(line.begin(), line.end(), '\t', ' ');
-    std::size_t d = firstPos(line, '.');
-    if (d < 2 || lastColon <= d) continue;
+    std::size_t d = line.find('.');
+    if (d == npos || d == 0 || lastColon == npos || lastColon <= d) continue;
     std::string_view t = trimView(line);
     if (t.empty() || t[0] == '#') continue;
     table.entries.push_back({fieldMnemonic(line), fieldUnit(line), fieldValue(line),

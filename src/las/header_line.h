@@ -29,10 +29,10 @@ enum class LineKind {
 };
 
 LineKind classifyHeaderLine(std::string_view line);
-// Position of the colon that ends the value (the last colon outside a format); gives back the
-// position of the format's "{" in `bracePos` (0 when there is no format).
-int delimiterColon(std::string_view line, int& bracePos);
-int delimiterColon(std::string_view line);
+// Place of the colon that ends the value (the last colon outside a format), npos when there is
+// none; gives back the place of the format's "{" in `brace` (npos when there is no format).
+std::size_t delimiterColon(std::string_view line, std::size_t& brace);
+std::size_t delimiterColon(std::string_view line);
 
 std::string fieldMnemonic(std::string_view line);
 std::string fieldUnit(std::string_view line);

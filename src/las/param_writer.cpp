@@ -34,7 +34,7 @@ bool replaceLineValue(std::string_view line, std::string_view newValue, std::str
   out.clear();
   if (classifyHeaderLine(line) != LineKind::Ok) return false;
   std::size_t period = line.find('.');
-  std::size_t colon = static_cast<std::size_t>(delimiterColon(line)) - 1;
+  std::size_t colon = delimiterColon(line);
   if (period == std::string_view::npos || colon <= period || colon >= line.size()) return false;
 
   // The value lies after the unit (which is glued to the period) and before the colon.

@@ -192,7 +192,7 @@ std::string sectionText(const LasFile& file, const Dialect& dialect, SectionInde
   if (!nextTitle.empty()) {
     // The range ends after the next title line: drop it and the line feed before it.
     std::size_t p = ifindLast(text, nextTitle);
-    if (p != 0) text.resize(p >= 2 ? p - 2 : 0);
+    if (p != std::string::npos) text.resize(p >= 1 ? p - 1 : 0);
   }
   return text;
 }

@@ -34,22 +34,27 @@ V3LineType parseDataLine(std::string_view t, std::string_view delimiter, V3LineD
 // earlier ones, so the slot keeps the last fault found.
 void checkFormatPart(std::string_view line, std::optional<SectionRole> role,
                      std::string_view delimiter, V3LineDiagnostics& d) {
-  std::size_t c = static_cast<std::size_t>(delimiterColon(line));
-  std::size_t firstBar = firstPos(line, '|');
-  std::size_t lastBar = lastPos(line, '|');
-  if (firstBar != 0) {
-    if (firstBar > c && contains(line, '}') &&
-        (firstBar < firstPos(line, '}') || firstBar < firstPos(line, '{')))
+  constexpr std::size_t npos = std::string_view::npos;
+  // Where the text after the delimiting colon starts (the whole line when there is no colon).
+  const std::size_t colon = delimiterColon(line);
+  const std::size_t afterColon = colon == npos ? 0 : colon + 1;
+  const std::size_t firstBar = line.find('|');
+  const std::size_t lastBar = line.rfind('|');
+  if (firstBar != npos) {
+    const std::size_t open = line.find('{');
+    const std::size_t close = line.find('}');
+    if (firstBar >= afterColon && close != npos &&
+        (firstBar < close || (open != npos && firstBar < open)))
       d[SLOT_BAR] = V3_MSG_BAR_BEFORE_FORMAT;
-    if (firstBar <= c) d[SLOT_BAR] = V3_MSG_BAR_BEFORE_COLON;
+    if (firstBar < afterColon) d[SLOT_BAR] = V3_MSG_BAR_BEFORE_COLON;
   }
 
   // The format part: after the delimiting colon, up to a bar that follows it.
-  std::string_view p = line.substr(c);
-  if (lastBar > c) p = line.substr(c, lastBar - c - 1);
-  std::size_t openFirst = firstPos(p, '{'), openLast = lastPos(p, '{');
-  std::size_t closeFirst = firstPos(p, '}'), closeLast = lastPos(p, '}');
-  bool hasOpen = openFirst != 0, hasClose = closeFirst != 0;
+  std::string_view p = line.substr(afterColon);
+  if (lastBar != npos && lastBar >= afterColon) p = line.substr(afterColon, lastBar - afterColon);
+  const std::size_t openFirst = p.find('{'), openLast = p.rfind('{');
+  const std::size_t closeFirst = p.find('}'), closeLast = p.rfind('}');
+  const bool hasOpen = openFirst != npos, hasClose = closeFirst != npos;
 
   if (openFirst != openLast || closeFirst != closeLast) d[SLOT_BRACE] = V3_MSG_MANY_BRACES;
 
@@ -73,8 +78,12 @@ void checkFormatPart(std::string_view line, std::optional<SectionRole> role,
   }
   if (hasOpen != hasClose) d[SLOT_BRACE] = V3_MSG_MISSING_BRACE;
   if (hasOpen && hasClose && openLast > closeLast) d[SLOT_BRACE] = V3_MSG_BRACE_ORDER;
-  if (firstBar != 0 && (lastPos(line, '{') > firstBar || lastPos(line, '}') > firstBar))
-    d[SLOT_BRACE] = V3_MSG_BRACE_AFTER_BAR;
+  if (firstBar != npos) {
+    const std::size_t open = line.rfind('{');
+    const std::size_t close = line.rfind('}');
+    if ((open != npos && open > firstBar) || (close != npos && close > firstBar))
+      d[SLOT_BRACE] = V3_MSG_BRACE_AFTER_BAR;
+  }
 }
 
 }  // namespace
@@ -150,9 +159,9 @@ V3LineType parseV3Line(std::string_view line, std::string& currentSection, V3Sec
       break;
   }
 
-  std::size_t period = firstPos(t, '.');
-  std::size_t colon = firstPos(t, ':');
-  if (period == 0 || colon == 0) {
+  std::size_t period = t.find('.');
+  std::size_t colon = t.find(':');
+  if (period == std::string_view::npos || colon == std::string_view::npos) {
     d[SLOT_LINE_TYPE] = V3_MSG_UNKNOWN_LINE;
     return V3LineType::Bad;
   }

@@ -83,7 +83,7 @@ bool readBatchWords(const std::vector<std::string>& words, Session& session) {
   // only a remembered ".las" name lets batch runs through.
   const std::string& remembered = session.lasFile;
   std::size_t at = ifind(remembered, ".las");
-  bool lasName = at != 0 && remembered.size() - at == 3;
+  bool lasName = at != std::string::npos && remembered.size() - at == 4;
   session.lasFile = lasName ? word0 : "";
   if (session.lasFile.empty()) {
     log(session, "Error:Supplied LAS file name, " + word0 + ", must have a .las extension.");

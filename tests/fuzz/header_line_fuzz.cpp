@@ -10,7 +10,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view line(reinterpret_cast<const char*>(data), size);
   zorvik::classifyHeaderLine(line);
-  int brace = 0;
+  std::size_t brace = 0;
   zorvik::delimiterColon(line, brace);
   const std::string mnemonic = zorvik::fieldMnemonic(line);
   zorvik::fieldUnit(line);

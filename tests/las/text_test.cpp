@@ -9,8 +9,11 @@ namespace {
 
 TEST(Text, TrimAndSearchHabits) {
   EXPECT_EQ(trim("\ta  "), "\ta");  // blanks only, never tabs
-  EXPECT_EQ(ifind("~ascii", "~A"), 1u);
-  EXPECT_EQ(findPos("a:b:c", ":", 3), 4u);
+  EXPECT_EQ(ifind("x~ascii", "~A"), 1u);
+  EXPECT_EQ(ifind("~a~A", "~A", 1), 2u);
+  EXPECT_EQ(ifind("~a", "~b"), std::string_view::npos);
+  EXPECT_EQ(ifindLast("~a~A~x", "~A"), 2u);
+  EXPECT_EQ(ifindLast("~a", "~a~a"), std::string_view::npos);
   EXPECT_EQ(split("a,,b", ","), (std::vector<std::string>{"a", "", "b"}));
   EXPECT_EQ(splitOnBlanks("  a   b "), (std::vector<std::string>{"a", "b"}));
 }
