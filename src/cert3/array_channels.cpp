@@ -14,16 +14,16 @@
 
 namespace zorvik {
 
-int arrayElementNumber(std::string_view mnemonic) {
+std::optional<int> arrayElementNumber(std::string_view mnemonic) {
   std::size_t open = mnemonic.find('[');
-  if (open == std::string_view::npos) return -1;
+  if (open == std::string_view::npos) return std::nullopt;
   std::size_t close = mnemonic.find(']', open + 1);
-  if (close == std::string_view::npos || close == open + 1) return -1;
+  if (close == std::string_view::npos || close == open + 1) return std::nullopt;
   long long number = 0;
   for (char c : mnemonic.substr(open + 1, close - open - 1)) {
-    if (c < '0' || c > '9') return -1;
+    if (c < '0' || c > '9') return std::nullopt;
     number = number * 10 + (c - '0');
-    if (number > std::numeric_limits<int>::max()) return -1;
+    if (number > std::numeric_limits<int>::max()) return std::nullopt;
   }
   return static_cast<int>(number);
 }
@@ -98,7 +98,7 @@ Finding elementFinding(const Element& e, std::string words) {
 bool checkSection(const std::vector<Element>& lines, Slots& slots) {
   bool unnumbered = false;
   for (const Element& e : lines) {
-    if (e.isArray && arrayElementNumber(e.mnemonic) == -1) {
+    if (e.isArray && !arrayElementNumber(e.mnemonic)) {
       slots[1].add(elementFinding(e, e.mnemonic));
       unnumbered = true;
     }
@@ -117,7 +117,8 @@ bool checkSection(const std::vector<Element>& lines, Slots& slots) {
       continue;
     }
     std::string key = toUpper(arrayBaseMnemonic(e.mnemonic));
-    int number = arrayElementNumber(e.mnemonic);
+    // Every element is numbered: unnumbered ones ended the section's test above.
+    const int number = arrayElementNumber(e.mnemonic).value_or(-1);
     auto [it, opened] = groups.try_emplace(key);
     ArrayGroup& group = it->second;
     if (current != &group && current != nullptr) current->closed = true;

@@ -3,6 +3,7 @@
 // stand together, share one spacing in their format and one unit.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -21,9 +22,9 @@ CheckStatus checkArrayChannels(RunContext& run, Slots& slots);
 
 // The helpers below cannot fail.
 //
-// The whole number between a mnemonic's "[" and the following "]"; -1 when there is none
-// ("NMR[3]" gives 3, "NMR", "NMR[]" and "NMR[x]" give -1).
-int arrayElementNumber(std::string_view mnemonic);
+// The whole number between a mnemonic's "[" and the following "]"; none when there is none
+// ("NMR[3]" gives 3, "NMR", "NMR[]" and "NMR[x]" give none).
+std::optional<int> arrayElementNumber(std::string_view mnemonic);
 // The mnemonic without its "[" and what follows ("NMR[3]" gives "NMR").
 std::string_view arrayBaseMnemonic(std::string_view mnemonic);
 // The text between a line's first "{" and its first "}", trimmed, as written (array marker and

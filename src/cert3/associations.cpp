@@ -52,8 +52,8 @@ CheckStatus checkAssociations(RunContext& run, Slots& slots) {
       const MnemonicRow& row = table.row(r);
       if (row.association.empty()) continue;
       for (const std::string& entry : row.entries) {
-        int target = table.lookup(entry);
-        if (target == -1) {
+        const std::optional<int> target = table.lookup(entry);
+        if (!target) {
           slots[1].add(Finding{"Association mnemonic " + std::string(trimView(entry)) +
                                    " not found in file. Line was :",
                                rowAsLine(row), row.position, 0, FindingBreak::After});

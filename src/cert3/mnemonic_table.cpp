@@ -12,11 +12,12 @@ void MnemonicTable::add(MnemonicRow row) {
   if (!key.empty()) firstRow_.emplace(std::move(key), size());  // keeps the first row of a name
 }
 
-int MnemonicTable::lookup(std::string_view mnemonic) const {
+std::optional<int> MnemonicTable::lookup(std::string_view mnemonic) const {
   std::string_view name = trimView(mnemonic);
-  if (name.empty()) return -1;
+  if (name.empty()) return std::nullopt;
   auto found = firstRow_.find(toUpper(name));
-  return found == firstRow_.end() ? -1 : found->second;
+  if (found == firstRow_.end()) return std::nullopt;
+  return found->second;
 }
 
 std::vector<bool> rowsInCircularChains(const MnemonicTable& table) {
@@ -25,8 +26,7 @@ std::vector<bool> rowsInCircularChains(const MnemonicTable& table) {
   std::vector<std::vector<int>> next(static_cast<std::size_t>(n) + 1);
   for (int r = 1; r <= n; ++r) {
     for (const std::string& entry : table.row(r).entries) {
-      int target = table.lookup(entry);
-      if (target > 0) next[r].push_back(target);
+      if (const std::optional<int> target = table.lookup(entry)) next[r].push_back(*target);
     }
   }
 

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -30,9 +31,9 @@ class MnemonicTable {
   int size() const { return static_cast<int>(rows_.size()); }
   // Row `number` (1..size()).
   const MnemonicRow& row(int number) const { return rows_[static_cast<std::size_t>(number) - 1]; }
-  // Number of the first row whose mnemonic equals the trimmed `mnemonic`, ignoring case; -1 for
+  // Number of the first row whose mnemonic equals the trimmed `mnemonic`, ignoring case; none for
   // an empty mnemonic or one no row has.
-  int lookup(std::string_view mnemonic) const;
+  std::optional<int> lookup(std::string_view mnemonic) const;
 
  private:
   std::vector<MnemonicRow> rows_;

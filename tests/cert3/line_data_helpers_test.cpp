@@ -119,12 +119,18 @@ TEST(DataItems, CountingSplitAgreesWithTheSplitAndTheQuickScan) {
 TEST(ArrayNames, ElementNumberAndBase) {
   struct Case {
     const char* mnemonic;
-    int number;
+    std::optional<int> number;
     const char* base;
   } cases[] = {
-      {"NMR[3]", 3, "NMR"},   {"NMR[0]", 0, "NMR"}, {"NMR", -1, "NMR"},
-      {"NMR[]", -1, "NMR"},   {"NMR[1", -1, "NMR"}, {"NMR]1[", -1, "NMR]1"},
-      {"NMR[-1]", -1, "NMR"}, {"[2]", 2, ""},       {"NMR[99999999999]", -1, "NMR"},
+      {"NMR[3]", 3, "NMR"},
+      {"NMR[0]", 0, "NMR"},
+      {"NMR", std::nullopt, "NMR"},
+      {"NMR[]", std::nullopt, "NMR"},
+      {"NMR[1", std::nullopt, "NMR"},
+      {"NMR]1[", std::nullopt, "NMR]1"},
+      {"NMR[-1]", std::nullopt, "NMR"},
+      {"[2]", 2, ""},
+      {"NMR[99999999999]", std::nullopt, "NMR"},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.mnemonic);
