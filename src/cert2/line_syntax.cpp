@@ -24,7 +24,7 @@ constexpr std::size_t MAX_SLOT_BYTES = 8 << 20;
 void addFinding(RowResult& slot, std::string_view words, std::string_view line,
                 std::int64_t start) {
   if (slot.textSize() >= MAX_SLOT_BYTES) return;
-  slot.add(lineFinding(std::string(words), std::string(line), start));
+  slot.add(Finding{std::string(words), std::string(line), start});
 }
 
 bool hasTab(std::string_view line) {

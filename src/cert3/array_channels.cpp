@@ -88,18 +88,13 @@ std::vector<Element> definitionLines(RunContext& run, LineReader& reader,
   return lines;
 }
 
-// A finding about one definition line: its words, then a line break.
-Finding elementFinding(const Element& e, std::string words) {
-  return Finding{std::move(words), std::nullopt, e.position, 0, FindingBreak::After};
-}
-
 // Judges one definition section; false when its unnumbered elements kept items 2 to 5 from being
 // tested.
 bool checkSection(const std::vector<Element>& lines, Slots& slots) {
   bool unnumbered = false;
   for (const Element& e : lines) {
     if (e.isArray && !arrayElementNumber(e.mnemonic)) {
-      slots[1].add(elementFinding(e, e.mnemonic));
+      slots[1].add(closedFinding(e.mnemonic, e.position));
       unnumbered = true;
     }
   }
@@ -126,21 +121,21 @@ bool checkSection(const std::vector<Element>& lines, Slots& slots) {
       group.spacing = std::string(spacingOf(e.format));
       group.unit = e.unit;
     } else if (group.closed) {
-      slots[3].add(elementFinding(e, e.mnemonic));
+      slots[3].add(closedFinding(e.mnemonic, e.position));
     }
     current = &group;
     // Each out-of-sequence element stands on a line of its own, as in the other array items.
     if (number != group.lastNumber + 1) {
-      slots[2].add(elementFinding(e, e.mnemonic));
+      slots[2].add(closedFinding(e.mnemonic, e.position));
     }
     group.lastNumber = number;
     if (!opened && spacingOf(e.format) != group.spacing) {
-      slots[4].add(elementFinding(e, e.mnemonic + ", format was: {" + e.format + "}"));
+      slots[4].add(closedFinding(e.mnemonic + ", format was: {" + e.format + "}", e.position));
     }
     // Units are compared exactly: "ms" and "MS" are different units.
     if (!opened && e.unit != group.unit) {
-      slots[5].add(
-          elementFinding(e, e.mnemonic + ", unit was: " + e.unit + ", first was: " + group.unit));
+      slots[5].add(closedFinding(
+          e.mnemonic + ", unit was: " + e.unit + ", first was: " + group.unit, e.position));
     }
   }
   return true;

@@ -56,11 +56,10 @@ CheckStatus checkAssociations(RunContext& run, Slots& slots) {
         if (!target) {
           slots[1].add(Finding{"Association mnemonic " + std::string(trimView(entry)) +
                                    " not found in file. Line was :",
-                               rowAsLine(row), row.position, 0, FindingBreak::After});
+                               rowAsLine(row), row.position, FindingBreak::After});
         } else if (target == r) {
           // The line runs on after the words, as written.
-          slots[2].add(Finding{"Line was like : " + rowAsLine(row), std::nullopt, row.position, 0,
-                               FindingBreak::After});
+          slots[2].add(closedFinding("Line was like : " + rowAsLine(row), row.position));
         }
       }
     }
@@ -70,7 +69,7 @@ CheckStatus checkAssociations(RunContext& run, Slots& slots) {
     for (int r = 1; r <= table.size(); ++r) {
       if (!circular[static_cast<std::size_t>(r)]) continue;
       const MnemonicRow& row = table.row(r);
-      slots[2].add(Finding{"Circular Association at line: ", rowAsLine(row), row.position, 0,
+      slots[2].add(Finding{"Circular Association at line: ", rowAsLine(row), row.position,
                            FindingBreak::After});
     }
   } catch (const std::exception&) {

@@ -69,10 +69,10 @@ Slots ColumnDataScan::finish() {
 void ColumnDataScan::reportChannelCount(const std::string& definitionName, int channels,
                                         const std::string& dataName, std::size_t found,
                                         std::int64_t position) {
-  slots_[1].add(Finding{"~" + definitionName + " has " + toText(channels) +
-                            " channel descriptions while ~" + dataName + " has " +
-                            toText(static_cast<long long>(found)) + " delimited channels. ",
-                        std::nullopt, position, 0, FindingBreak::After});
+  slots_[1].add(closedFinding("~" + definitionName + " has " + toText(channels) +
+                                  " channel descriptions while ~" + dataName + " has " +
+                                  toText(static_cast<long long>(found)) + " delimited channels. ",
+                              position));
 }
 
 // `counted`: the items come with their shapes (the common line, read in one pass).
@@ -89,18 +89,10 @@ void ColumnDataScan::checkFormats(const std::string& dataName, bool counted, std
     if (!budget3_.take(items_[k].size() + dataName.size() + place.size() + f.text.size() + 48)) {
       continue;
     }
-    std::string words;
-    words.reserve(items_[k].size() + dataName.size() + place.size() + f.text.size() + 40);
-    words += "Data column item (";
-    words += items_[k];
-    words += ") in ~";
-    words += dataName;
-    words += " @ ";
-    words += place;
-    words += " wrong format {";
-    words += f.text;
-    words += "}";
-    slots_[3].add(Finding{std::move(words), std::nullopt, start, 0, FindingBreak::After});
+    slots_[3].add(closedFinding("Data column item (" + std::string(items_[k]) + ") in ~" +
+                                    dataName + " @ " + std::string(place) + " wrong format {" +
+                                    f.text + "}",
+                                start));
   }
 }
 
@@ -110,7 +102,7 @@ void ColumnDataScan::reportItemCount(std::string_view line, std::int64_t start,
   slots_[2].add(Finding{"Section " + dataName + ", expected " +
                             toText(static_cast<long long>(expected)) + " channels, found " +
                             toText(static_cast<long long>(items_.size())) + ". Line was",
-                        std::string(line), start, 0, FindingBreak::After});
+                        std::string(line), start, FindingBreak::After});
 }
 
 std::string definitionSectionFor(const SectionIndex& sections, const SectionEntry& dataSection) {

@@ -1,22 +1,10 @@
 #include "cert3/data_items.h"
 
-#include <array>
 #include <cstdint>
 
 namespace zorvik {
 
 namespace {
-
-// What each byte adds to an item's shape.
-constexpr std::array<std::uint64_t, 256> kByteKinds = [] {
-  std::array<std::uint64_t, 256> kinds{};
-  for (auto& kind : kinds) kind = ItemShape::kOther;
-  for (char c = '0'; c <= '9'; ++c) kinds[static_cast<unsigned char>(c)] = ItemShape::kDigit;
-  kinds['.'] = ItemShape::kPoint;
-  kinds['+'] = ItemShape::kSign;
-  kinds['-'] = ItemShape::kSign;
-  return kinds;
-}();
 
 // Blanks (spaces only) trimmed from both ends; kept here so the hot loop stays inline.
 std::string_view trimBlanks(const char* begin, const char* end) {
@@ -87,7 +75,8 @@ bool splitCountingItems(std::string_view line, char delimiter, std::vector<std::
     while (p != end && *p == ' ') ++p;  // leading blanks are no part of the item
     const char* const start = p;
     std::uint64_t counts = 0;
-    for (; p != end && *p != delimiter; ++p) counts += kByteKinds[static_cast<unsigned char>(*p)];
+    for (; p != end && *p != delimiter; ++p)
+      counts += item_scan::kByteKinds[static_cast<unsigned char>(*p)];
     const char* last = p;
     while (last != start && last[-1] == ' ') {  // nor are trailing ones
       --last;

@@ -31,8 +31,7 @@ class FindingBudget {
   // Adds to `slot` the count of findings left out, when there were any.
   void closeInto(RowResult& slot) const {
     if (unlisted_ == 0) return;
-    slot.add(Finding{toText(unlisted_) + " more findings of this kind not listed", std::nullopt, 0,
-                     0, FindingBreak::After});
+    slot.add(closedFinding(toText(unlisted_) + " more findings of this kind not listed"));
   }
 
  private:

@@ -7,6 +7,7 @@
 // full test's. Nothing here can fail; the quick scan allocates nothing.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -67,46 +68,26 @@ inline bool allDigits(std::string_view s) {
   return true;
 }
 
-// A plain decimal number: optional sign, digits with at most one point, at least one digit.
-inline bool isPlainNumber(std::string_view s) {
-  std::size_t i = !s.empty() && (s[0] == '+' || s[0] == '-') ? 1 : 0;
-  bool point = false;
-  bool digit = false;
-  for (; i < s.size(); ++i) {
-    char c = s[i];
-    if (isDigit(c)) {
-      digit = true;
-    } else if (c == '.' && !point) {
-      point = true;
-    } else {
-      return false;
-    }
-  }
-  return digit;
+// What each byte adds to an item's shape.
+inline constexpr std::array<std::uint64_t, 256> kByteKinds = [] {
+  std::array<std::uint64_t, 256> kinds{};
+  for (auto& kind : kinds) kind = ItemShape::kOther;
+  for (char c = '0'; c <= '9'; ++c) kinds[static_cast<unsigned char>(c)] = ItemShape::kDigit;
+  kinds['.'] = ItemShape::kPoint;
+  kinds['+'] = ItemShape::kSign;
+  kinds['-'] = ItemShape::kSign;
+  return kinds;
+}();
+
+// The counted bytes of an item of at most ItemShape::kMaxCounted bytes.
+inline ItemShape shapeOf(std::string_view item) {
+  ItemShape shape;
+  for (char c : item) shape.counts += kByteKinds[static_cast<unsigned char>(c)];
+  return shape;
 }
 
-inline bool quickAccepts(std::string_view item, const ItemFormat& f) {
-  switch (f.quick) {
-    case ItemFormat::QUICK_NUMBER:
-      return isPlainNumber(item);
-    case ItemFormat::QUICK_FIXED: {
-      if (item.size() != f.width || !isPlainNumber(item)) return false;
-      std::size_t point = item.find('.');
-      return point != std::string_view::npos && item.size() - point - 1 == f.decimals;
-    }
-    case ItemFormat::QUICK_DIGITS:
-      return allDigits(item);
-    case ItemFormat::QUICK_DIGITS_SIZED:
-      return item.size() == f.width && allDigits(item);
-    case ItemFormat::QUICK_ANY:
-      return true;
-    case ItemFormat::QUICK_NONE:
-      break;
-  }
-  return false;
-}
-
-// The same answers as quickAccepts, from the item and its counted bytes.
+// A quick yes for the common items, from the item and its counted bytes; false means the full test
+// decides.
 inline bool quickAcceptsShape(std::string_view item, const ItemShape& shape, const ItemFormat& f) {
   // A plain number: no other byte, at most one point and one sign (all tested at once on the
   // packed counts), at least one digit, and a sign only in front.
@@ -130,6 +111,11 @@ inline bool quickAcceptsShape(std::string_view item, const ItemShape& shape, con
       break;
   }
   return false;
+}
+
+// The same, counting the item's bytes first; an item too long to count is left to the full test.
+inline bool quickAccepts(std::string_view item, const ItemFormat& f) {
+  return item.size() <= ItemShape::kMaxCounted && quickAcceptsShape(item, shapeOf(item), f);
 }
 
 }  // namespace item_scan

@@ -109,7 +109,7 @@ class LineStructureCheck {
       words += opener;
       words += section;
       words += ")";
-      slots_[k].add(Finding{std::move(words), std::string(line), start, 0, FindingBreak::After});
+      slots_[k].add(Finding{std::move(words), std::string(line), start, FindingBreak::After});
     }
   }
 
@@ -137,8 +137,7 @@ class LineStructureCheck {
   }
 
   void addDataFinding(std::string_view words, const std::string& title, std::int64_t start) {
-    dataFindings_.add(
-        Finding{std::string(words) + title, std::nullopt, start, 0, FindingBreak::After});
+    dataFindings_.add(closedFinding(std::string(words) + title, start));
   }
 
   // The increments of the run's data section, walked on this pass, and the column data check's
@@ -179,7 +178,7 @@ class LineStructureCheck {
   void finishDataSection() {
     if (scan_.entry != nullptr && !scan_.dataSeen) {
       slots_[11].add(Finding{"No Data lines found in section " + scan_.entry->name, std::nullopt,
-                             scan_.entry->titleStart, 0, FindingBreak::Before});
+                             scan_.entry->titleStart, FindingBreak::Before});
     }
     scan_ = DataSectionScan{};
   }

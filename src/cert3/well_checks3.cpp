@@ -25,11 +25,6 @@ int entryOf(const ParamTable& table, std::string_view mnemonic) {
   return 0;
 }
 
-// Words of a finding, then a line break.
-Finding closedFinding(std::string words) {
-  return Finding{std::move(words), std::nullopt, 0, 0, FindingBreak::After};
-}
-
 template <std::size_t N>
 void appendMissing(const ParamTable& table, const std::string_view (&list)[N], RowResult& slot) {
   for (std::string_view m : list)
@@ -62,8 +57,7 @@ Finding lineAsWritten(RunContext& run, std::string_view section, const ParamTabl
     if (!trimmed.empty() && trimmed.front() != '#' && iequals(fieldMnemonic(line), mnemonic)) {
       // The line feed of the CR LF before it is not part of the line.
       const std::size_t lineStart = begin + (text[begin] == '\n' ? 1 : 0);
-      return Finding{std::move(line), std::nullopt, start + static_cast<std::int64_t>(lineStart), 0,
-                     FindingBreak::After};
+      return closedFinding(std::move(line), start + static_cast<std::int64_t>(lineStart));
     }
     begin = end + 1;
   }

@@ -185,7 +185,7 @@ bool RecordWalk::feed(std::string_view line, std::int64_t lineStart, std::int64_
                                                  : "Line too long for WRAP NO. Was ") +
                                      toText(lineLength) +
                                      (rules_.wrapped ? " long. 80 is max." : " long. 256 is max."),
-                                 std::string(line), lineStart, 0, FindingBreak::None});
+                                 std::string(line), lineStart, FindingBreak::None});
       done_ = true;
       return false;
     }
@@ -221,7 +221,7 @@ void RecordWalk::finish(const LasFile& file, RowResult& countFinding, RowResult&
     countFinding.add(
         Finding{"Space delimited column count differs from ~Curve channel count. Expected: " +
                     toText(rules_.expectedValues) + ". Found: " + toText(badValues_),
-                recordText(file, badStart_, badLines_), badStart_, 0, FindingBreak::None});
+                recordText(file, badStart_, badLines_), badStart_, FindingBreak::None});
   lengthFinding = lengthFinding_;
 }
 

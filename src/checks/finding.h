@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace zorvik {
 
@@ -17,11 +18,19 @@ enum class FindingBreak {
 };
 
 struct Finding {
+  Finding() = default;
+  explicit Finding(std::string words, std::optional<std::string> quotedLine = std::nullopt,
+                   std::int64_t at = 0, FindingBreak breakAt = FindingBreak::Before)
+      : message(std::move(words)),
+        quoted(std::move(quotedLine)),
+        position(at),
+        lineBreak(breakAt) {}
+
   std::string message;                // the finding's words as the report prints them
   std::optional<std::string> quoted;  // the offending line as read, when the finding shows one
   std::int64_t position = 0;          // 1-based byte position of that line in the file; 0 unknown
-  std::uint64_t line = 0;             // 1-based line number, once numbered; 0 when not known
   FindingBreak lineBreak = FindingBreak::Before;
+  std::uint64_t line = 0;  // 1-based line number, once numbered (from `position`); 0 when not known
 
   // The finding as its row's text holds it.
   void appendText(std::string& out) const;
@@ -29,14 +38,9 @@ struct Finding {
   bool operator==(const Finding&) const = default;
 };
 
-// A finding of a line read at `position`, quoting it: its words, then the line below them.
-inline Finding lineFinding(std::string message, std::string quoted, std::int64_t position) {
-  return Finding{std::move(message), std::move(quoted), position, 0, FindingBreak::Before};
-}
-
-// A finding of words only, on a line of its own.
-inline Finding wordsFinding(std::string message) {
-  return Finding{std::move(message), std::nullopt, 0, 0, FindingBreak::Before};
+// A finding of words alone, closed by a line break: the commonest form in lists of findings.
+inline Finding closedFinding(std::string message, std::int64_t position = 0) {
+  return Finding{std::move(message), std::nullopt, position, FindingBreak::After};
 }
 
 }  // namespace zorvik

@@ -164,8 +164,7 @@ CheckStatus checkIndexRange(RunContext& run, const WellRange& well, const std::s
       {&well.step, "STEP value missing"},
       {&well.nullValue, "NULL value missing"}};
   for (const auto& [value, message] : required)
-    if (trimView(*value).empty())
-      slots[1].add(Finding{message, std::nullopt, 0, 0, FindingBreak::After});
+    if (trimView(*value).empty()) slots[1].add(closedFinding(message));
   if (!slots[1].passed()) return CheckStatus::Failed;
 
   WellValue strt = wellValue(wellTable, "STRT");

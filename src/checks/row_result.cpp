@@ -27,7 +27,7 @@ void Finding::appendText(std::string& out) const {
 
 RowResult RowResult::saying(std::string text) {
   RowResult row;
-  row.add(Finding{std::move(text), std::nullopt, 0, 0, FindingBreak::None});
+  row.add(Finding{std::move(text), std::nullopt, 0, FindingBreak::None});
   return row;
 }
 

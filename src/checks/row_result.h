@@ -48,7 +48,6 @@ class RowResult {
   void append(const RowResult& other);
 
   const std::vector<Finding>& findings() const { return findings_; }
-  std::vector<Finding>& findings() { return findings_; }
 
   // Length of `text()`, kept as findings are added so that callers can bound a row's size.
   std::size_t textSize() const { return textBytes_ + (blank_ ? 1 : 0); }

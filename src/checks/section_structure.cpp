@@ -67,15 +67,11 @@ bool containsAnyOf(std::string_view s, std::initializer_list<std::string_view> w
   return false;
 }
 
-// Appends a title and a line break unless the title is listed already. Whole titles are compared
-// (ignoring case), so a title is never hidden by a longer one that contains it.
-// A finding about one title line: its words, then a line break.
-void addTitleFinding(RowResult& slot, std::string words, const Title& title) {
-  slot.add(Finding{std::move(words), std::nullopt, title.position, 0, FindingBreak::After});
-}
-
+// Lists a title unless it is listed already. Whole titles are compared (ignoring case), so a
+// title is never hidden by a longer one that contains it.
 void appendOnce(RowResult& slot, std::unordered_set<std::string>& listed, const Title& title) {
-  if (listed.insert(toUpper(title.text)).second) addTitleFinding(slot, title.text, title);
+  if (listed.insert(toUpper(title.text)).second)
+    slot.add(closedFinding(title.text, title.position));
 }
 
 // Names are compared ignoring case, so upper-cased texts serve as keys. Each rule below compares
@@ -194,7 +190,7 @@ void recognisedNames(const std::vector<Title>& titles, RowResult& slot) {
     if (containsAnyOf(t.name, {"_Definition", "_Data", "_Parameter"})) continue;
     // The title as written tells the user which line to look at, index and all (a title whose
     // index cannot be read has no name at all).
-    addTitleFinding(slot, "Illegal section is ~" + t.text, t);
+    slot.add(closedFinding("Illegal section is ~" + t.text, t.position));
   }
 }
 
@@ -244,7 +240,7 @@ void dataTitleDelimiter(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   for (const Title& t : titles) {
     if (t.role != SectionRole::Data || iequals(t.text, "ASCII")) continue;
-    if (t.association.empty() || t.association == " ") addTitleFinding(slot, t.text, t);
+    if (t.association.empty() || t.association == " ") slot.add(closedFinding(t.text, t.position));
   }
 }
 
@@ -254,15 +250,16 @@ void matchingAssociation(const std::vector<Title>& titles, RowResult& slot) {
     if (t.role != SectionRole::Data) continue;
     if (iequals(t.text, "ASCII")) {
       if (!t.association.empty() && !iequals(t.association, "Curve"))
-        addTitleFinding(
-            slot, "Associated Column definition section must be Curve, not " + t.association, t);
+        slot.add(closedFinding(
+            "Associated Column definition section must be Curve, not " + t.association,
+            t.position));
     } else if (contains(t.text, '_') && contains(t.association, '_')) {
       if (!iequals(upToUnderscore(t.text), upToUnderscore(t.association))) {
-        addTitleFinding(slot, t.text, t);
+        slot.add(closedFinding(t.text, t.position));
         return;
       }
     } else {
-      addTitleFinding(slot, t.text, t);
+      slot.add(closedFinding(t.text, t.position));
     }
   }
 }
@@ -271,7 +268,7 @@ void definitionSuffix(const std::vector<Title>& titles, RowResult& slot) {
   slot.clear();
   for (const Title& t : titles) {
     if (icontains(t.text, "_DATA") && !icontains(t.association, "_Definition"))
-      addTitleFinding(slot, t.text + "|" + t.association, t);
+      slot.add(closedFinding(t.text + "|" + t.association, t.position));
   }
 }
 
@@ -283,7 +280,8 @@ void definitionExists(const std::vector<Title>& titles, RowResult& slot) {
     if (!icontains(t.association, "_Definition")) continue;
     const auto it = texts.find(toUpper(t.association));
     const int all = it == texts.end() ? 0 : it->second;
-    if (all - (iequals(t.text, t.association) ? 1 : 0) == 0) addTitleFinding(slot, t.text, t);
+    if (all - (iequals(t.text, t.association) ? 1 : 0) == 0)
+      slot.add(closedFinding(t.text, t.position));
   }
 }
 
@@ -296,7 +294,8 @@ void definitionHasData(const std::vector<Title>& titles, RowResult& slot) {
     if (!icontains(t.text, "_Definition")) continue;
     const auto it = dataBases.find(toUpper(baseName(t.text)));
     const int all = it == dataBases.end() ? 0 : it->second;
-    if (all - (t.role == SectionRole::Data ? 1 : 0) == 0) addTitleFinding(slot, t.text, t);
+    if (all - (t.role == SectionRole::Data ? 1 : 0) == 0)
+      slot.add(closedFinding(t.text, t.position));
   }
 }
 
@@ -306,14 +305,13 @@ void noAssociationOnHeaders(const std::vector<Title>& titles, RowResult& slot) {
     const bool applies = containsAnyOf(t.text, {"Version", "Well", "_Parameter", "_Definition"}) ||
                          isOneOf(t.name, {"Parameter", "Curve"});
     if (!applies || t.association.empty()) continue;
-    addTitleFinding(
-        slot,
+    slot.add(closedFinding(
         "~" + t.text +
             (t.association == " "
                  ? " section title has a illegal | delimiter"
                  : " section title has a illegal | delimiter AND an illegal association section "
                    "title."),
-        t);
+        t.position));
   }
 }
 
@@ -334,13 +332,13 @@ void setOrder(const std::vector<Title>& titles, RowResult& slot) {
     const int paramPos = positionOf(places, parameter);
     const int dataPos = static_cast<int>(k);
     if (defPos == -1) {
-      addTitleFinding(slot, "Missing " + definition, data);
+      slot.add(closedFinding("Missing " + definition, data.position));
     } else if (paramPos != -1) {
       if (!(paramPos < defPos && defPos < dataPos))
-        addTitleFinding(slot, "Expected order: " + parameter + "/" + definition + "/" + data.text,
-                        data);
+        slot.add(closedFinding("Expected order: " + parameter + "/" + definition + "/" + data.text,
+                               data.position));
     } else if (!(defPos < dataPos)) {
-      addTitleFinding(slot, "Expected order: " + definition + "/" + data.text, data);
+      slot.add(closedFinding("Expected order: " + definition + "/" + data.text, data.position));
     }
   }
 }
@@ -350,7 +348,7 @@ void noIndexOnFixedSections(const std::vector<Title>& titles, RowResult& slot) {
   for (const Title& t : titles) {
     const std::string_view base = baseName(t.text);
     if (t.index != -1 && isOneOf(base, {"Version", "Well", "Curve", "Parameter", "ASCII"}))
-      addTitleFinding(slot, std::string(base), t);
+      slot.add(closedFinding(std::string(base), t.position));
   }
 }
 
@@ -380,7 +378,7 @@ void sequentialIndexes(const std::vector<Title>& titles, RowResult& slot) {
   for (const auto& group : groupsByName(titles, [](const Title& t) { return t.index != -1; })) {
     if (group.size() == 1) {
       if (titles[group[0]].index != 1)
-        addTitleFinding(slot, titles[group[0]].text, titles[group[0]]);
+        slot.add(closedFinding(titles[group[0]].text, titles[group[0]].position));
       continue;
     }
     std::vector<int> indexes;
@@ -388,7 +386,7 @@ void sequentialIndexes(const std::vector<Title>& titles, RowResult& slot) {
     std::stable_sort(indexes.begin(), indexes.end());
     for (std::size_t k = 0; k < indexes.size(); ++k)
       if (indexes[k] != static_cast<int>(k + 1))
-        addTitleFinding(slot, titles[group[0]].name, titles[group[0]]);
+        slot.add(closedFinding(titles[group[0]].name, titles[group[0]].position));
   }
 }
 

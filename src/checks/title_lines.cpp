@@ -26,7 +26,7 @@ std::string describeCharacter(unsigned char c) {
 
 void add(RowResult& slot, std::string_view words, std::string_view quoted, std::int64_t start,
          FindingBreak lineBreak) {
-  slot.add(Finding{std::string(words), std::string(quoted), start, 0, lineBreak});
+  slot.add(Finding{std::string(words), std::string(quoted), start, lineBreak});
 }
 
 // Each finding of this pass ends with a line break.

@@ -147,9 +147,8 @@ CheckStatus checkVersionSection(RunContext& run, const ParamTable& versionTable,
     for (int k = 0; k < 3; ++k) {
       int position = places.position[k];
       if (position < 1 || position > 3) {
-        slots[8].add(Finding{std::string(kPlacedNames[k]) + " not 1st, 2nd or 3rd. It was " +
-                                 toText(position) + "th",
-                             std::nullopt, 0, 0, FindingBreak::After});
+        slots[8].add(closedFinding(std::string(kPlacedNames[k]) + " not 1st, 2nd or 3rd. It was " +
+                                   toText(position) + "th"));
       }
     }
   }

@@ -70,8 +70,8 @@ TEST(ItemFormat, AgreesWithTheFullValueTest) {
   }
 }
 
-// The one-pass cut of the common line gives the items of the ordinary split, and the counted
-// bytes give the quick scan's own answer for every format.
+// The one-pass cut of the common line gives the items of the ordinary split, and counts each
+// item's bytes as the quick scan counts them.
 TEST(DataItems, CountingSplitAgreesWithTheSplitAndTheQuickScan) {
   const char* lines[] = {
       "1000.0000,42.6060,-999.25,+7,.5,5.",         " 1.0 , 2.0 ,3.0 ,",       ",,", "", "   ",
@@ -86,7 +86,6 @@ TEST(DataItems, CountingSplitAgreesWithTheSplitAndTheQuickScan) {
     for (char& c : line) c = alphabet[random() % alphabet.size()];
     generated.push_back(line);
   }
-  const char* formats[] = {"", "F", "F10.4", "F7.4", "F4.1", "I", "I3", "S", "E", "Q"};
   for (char delimiter : {',', '\t'}) {
     for (const std::string& text : generated) {
       std::string line = text;
@@ -98,14 +97,8 @@ TEST(DataItems, CountingSplitAgreesWithTheSplitAndTheQuickScan) {
       ASSERT_EQ(std::vector<std::string>(items.begin(), items.end()),
                 splitToStrings(line, delimiter));
       ASSERT_EQ(shapes.size(), items.size());
-      for (const char* format : formats) {
-        ItemFormat parsed = parseItemFormat(format);
-        for (std::size_t k = 0; k < items.size(); ++k) {
-          SCOPED_TRACE(std::string("item [") + std::string(items[k]) + "] format [" + format + "]");
-          EXPECT_EQ(item_scan::quickAcceptsShape(items[k], shapes[k], parsed),
-                    item_scan::quickAccepts(items[k], parsed));
-        }
-      }
+      for (std::size_t k = 0; k < items.size(); ++k)
+        EXPECT_EQ(shapes[k].counts, item_scan::shapeOf(items[k]).counts) << items[k];
     }
   }
   // Quoted items, and items too long to count, are left to the ordinary split.

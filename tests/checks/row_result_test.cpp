@@ -9,7 +9,7 @@ namespace zorvik {
 namespace {
 
 Finding finding(std::string words, std::optional<std::string> quoted, FindingBreak lineBreak) {
-  return Finding{std::move(words), std::move(quoted), 0, 0, lineBreak};
+  return Finding{std::move(words), std::move(quoted), 0, lineBreak};
 }
 
 // A row's text is its findings one after the other, each with its line break where the check put

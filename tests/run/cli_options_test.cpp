@@ -10,9 +10,8 @@ namespace zorvik {
 namespace {
 
 Finding numbered(std::string message, std::uint64_t line, std::string quoted) {
-  Finding finding = wordsFinding(std::move(message));
+  Finding finding(std::move(message), std::move(quoted));
   finding.line = line;
-  finding.quoted = std::move(quoted);
   return finding;
 }
 
@@ -97,7 +96,7 @@ TEST(ToolOutput, FailedFileShowsRowsFirstFindingAndHint) {
        "Legal line type",
        RowOutcome::Failed,
        {numbered("Tab used:", 12, "A\tB"), numbered("Tab used:", 14, "C\tD")}},
-      {6, 1, "STRT", RowOutcome::Failed, {wordsFinding("STRT differs")}},
+      {6, 1, "STRT", RowOutcome::Failed, {Finding{"STRT differs"}}},
       {7, 1, "Data", RowOutcome::NotPerformed, {}},
   };
   EXPECT_EQ(fileLines(file),
